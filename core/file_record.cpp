@@ -1,0 +1,254 @@
+#include "core/file_record.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <charconv>
+#include <cmath>
+#include <filesystem>
+
+#include "core/errore_runtime.h"
+#include "core/file_sistema.h"
+#include "core/numeri.h"
+
+namespace schedine {
+
+namespace {
+
+constexpr size_t dimensione_buffer = 64 * 1024;
+constexpr int fine = -1;
+
+bool e_blank(int c) { return c == ' ' || c == '\t'; }
+bool e_fine_riga(int c) { return c == '\r' || c == '\n'; }
+
+// The platform's error for a failed operation on a file, from the C library's error.
+int errore_da_errno(int numero_errno) {
+  switch (numero_errno) {
+    case ENOENT: return codice::percorso_non_trovato;
+    case ENOSPC:
+    case EDQUOT: return codice::disco_pieno;
+    case EACCES:
+    case EPERM:
+    case EROFS: return codice::autorizzazione_negata;
+    case EISDIR: return codice::errore_accesso;
+    default: return codice::errore_io;
+  }
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------- reading
+
+lettore_record::lettore_record(const std::string& percorso) : percorso_(risolvi_percorso(percorso)) {
+  std::error_code ec;
+  if (!std::filesystem::is_regular_file(percorso_, ec)) throw errore_runtime(codice::file_non_trovato, percorso);
+  file_ = std::fopen(percorso_.c_str(), "rb");
+  if (file_ == nullptr) throw errore_runtime(errore_da_errno(errno), percorso);
+  buffer_.resize(dimensione_buffer);
+}
+
+lettore_record::~lettore_record() {
+  if (file_ != nullptr) std::fclose(file_);
+}
+
+int lettore_record::guarda() {
+  if (inizio_ == fine_) {
+    inizio_ = 0;
+    fine_ = std::fread(buffer_.data(), 1, buffer_.size(), file_);
+    if (fine_ == 0) {
+      if (std::ferror(file_)) errore(codice::errore_io);
+      return fine;
+    }
+  }
+  return static_cast<unsigned char>(buffer_[inizio_]);
+}
+
+int lettore_record::prossimo() {
+  int c = guarda();
+  if (c != fine) ++inizio_;
+  return c;
+}
+
+bool lettore_record::fine_file() { return guarda() == fine; }
+
+void lettore_record::errore(int numero) const { throw errore_runtime(numero, percorso_); }
+
+// Consumes what ends a field: a comma, or a line end (CR LF, CR or LF).
+void lettore_record::salta_fine_campo() {
+  int c = prossimo();
+  if (c == '\r' && guarda() == '\n') prossimo();
+}
+
+std::string lettore_record::leggi_campo_grezzo(bool& tra_virgolette) {
+  while (e_blank(guarda())) prossimo();
+  if (guarda() == fine) errore(codice::input_oltre_fine);
+  std::string testo;
+  tra_virgolette = guarda() == '"';
+  if (tra_virgolette) {
+    prossimo();
+    for (int c = prossimo(); c != fine && c != '"'; c = prossimo()) testo += static_cast<char>(c);
+    // Whatever stands between the closing quote and the separator is dropped.
+    while (guarda() != fine && guarda() != ',' && !e_fine_riga(guarda())) prossimo();
+    salta_fine_campo();
+    return testo;
+  }
+  for (int c = guarda(); c != fine && c != ',' && !e_fine_riga(c); c = guarda()) testo += static_cast<char>(prossimo());
+  salta_fine_campo();
+  while (!testo.empty() && e_blank(static_cast<unsigned char>(testo.back()))) testo.pop_back();
+  return testo;
+}
+
+std::string lettore_record::leggi_campo() {
+  bool tra_virgolette = false;
+  return leggi_campo_grezzo(tra_virgolette);
+}
+
+double lettore_record::leggi_double() {
+  bool tra_virgolette = false;
+  std::string testo = leggi_campo_grezzo(tra_virgolette);
+  if (testo.empty() && !tra_virgolette) return 0.0;
+  if (testo == "#TRUE#") return -1.0;
+  if (testo == "#FALSE#") return 0.0;
+  double valore = 0.0;
+  if (!leggi_decimale(testo, valore)) {
+    errore(testo.find_first_not_of("+-.0123456789eE") == std::string::npos && !testo.empty() ? codice::overflow
+                                                                                         : codice::tipo_non_corrispondente);
+  }
+  if (std::isinf(valore)) errore(codice::overflow);
+  return valore;
+}
+
+float lettore_record::leggi_single() {
+  bool tra_virgolette = false;
+  std::string testo = leggi_campo_grezzo(tra_virgolette);
+  if (testo.empty() && !tra_virgolette) return 0.0f;
+  if (testo == "#TRUE#") return -1.0f;
+  if (testo == "#FALSE#") return 0.0f;
+  float valore = 0.0f;
+  if (leggi_decimale(testo, valore)) return valore;
+  double largo = 0.0;
+  if (leggi_decimale(testo, largo)) {
+    // A number beyond a Single's range; one too small for it reads as 0.
+    if (std::fabs(largo) < 1.0) return 0.0f;
+    errore(codice::overflow);
+  }
+  errore(codice::tipo_non_corrispondente);
+}
+
+int32_t lettore_record::leggi_long() {
+  double valore = leggi_double();
+  try {
+    return a_long(valore);
+  } catch (const errore_runtime& e) {
+    errore(e.numero());
+  }
+}
+
+int16_t lettore_record::leggi_integer() {
+  double valore = leggi_double();
+  try {
+    return a_integer(valore);
+  } catch (const errore_runtime& e) {
+    errore(e.numero());
+  }
+}
+
+uint8_t lettore_record::leggi_byte() {
+  double valore = leggi_double();
+  try {
+    return a_byte(valore);
+  } catch (const errore_runtime& e) {
+    errore(e.numero());
+  }
+}
+
+bool lettore_record::leggi_booleano() {
+  bool tra_virgolette = false;
+  std::string testo = leggi_campo_grezzo(tra_virgolette);
+  if (testo == "#TRUE#" || testo == "True" || testo == "TRUE" || testo == "true") return true;
+  if (testo == "#FALSE#" || testo == "False" || testo == "FALSE" || testo == "false" || testo.empty()) return false;
+  double valore = 0.0;
+  if (!leggi_decimale(testo, valore)) errore(codice::tipo_non_corrispondente);
+  return valore != 0.0;
+}
+
+std::string lettore_record::leggi_riga() {
+  if (guarda() == fine) errore(codice::input_oltre_fine);
+  std::string riga;
+  for (int c = guarda(); c != fine && !e_fine_riga(c); c = guarda()) riga += static_cast<char>(prossimo());
+  if (guarda() != fine) salta_fine_campo();
+  return riga;
+}
+
+// ---------------------------------------------------------------- writing
+
+scrittore_record::scrittore_record(std::string percorso)
+    : percorso_(risolvi_percorso(percorso)), temporaneo_(percorso_ + ".tmp~") {
+  file_ = std::fopen(temporaneo_.c_str(), "wb");
+  if (file_ == nullptr) throw errore_runtime(errore_da_errno(errno), percorso_);
+}
+
+scrittore_record::~scrittore_record() {
+  if (file_ != nullptr) {
+    std::fclose(file_);
+    std::remove(temporaneo_.c_str());
+  }
+}
+
+void scrittore_record::fallisci(int numero) {
+  if (file_ != nullptr) {
+    std::fclose(file_);
+    file_ = nullptr;
+  }
+  std::remove(temporaneo_.c_str());
+  throw errore_runtime(numero, percorso_);
+}
+
+void scrittore_record::scrivi_testo(std::string_view testo) {
+  if (file_ == nullptr) throw errore_runtime(codice::nome_file_non_valido, percorso_);
+  if (std::fwrite(testo.data(), 1, testo.size(), file_) != testo.size()) fallisci(errore_da_errno(errno));
+}
+
+namespace {
+std::string testo_campo(const campo_record& campo) {
+  if (const auto* stringa = std::get_if<std::string>(&campo)) return "\"" + *stringa + "\"";
+  if (const auto* intero = std::get_if<int64_t>(&campo)) return std::to_string(*intero);
+  if (const auto* booleano = std::get_if<bool>(&campo)) return *booleano ? "#TRUE#" : "#FALSE#";
+  char buffer[64];
+  auto risultato = std::to_chars(buffer, buffer + sizeof buffer, std::get<double>(campo));
+  return std::string(buffer, risultato.ptr);
+}
+}  // namespace
+
+void scrittore_record::scrivi(std::initializer_list<campo_record> campi) {
+  std::string riga;
+  for (const auto& campo : campi) {
+    if (!riga.empty()) riga += ',';
+    riga += testo_campo(campo);
+  }
+  stampa_riga(riga);
+}
+
+void scrittore_record::stampa_riga(std::string_view testo) {
+  scrivi_testo(testo);
+  scrivi_testo("\r\n");
+}
+
+void scrittore_record::chiudi() {
+  if (file_ == nullptr) return;
+  if (std::fflush(file_) != 0 || ::fsync(::fileno(file_)) != 0) fallisci(errore_da_errno(errno));
+  std::FILE* file = file_;
+  file_ = nullptr;
+  if (std::fclose(file) != 0) {
+    int numero = errore_da_errno(errno);
+    std::remove(temporaneo_.c_str());
+    throw errore_runtime(numero, percorso_);
+  }
+  if (std::rename(temporaneo_.c_str(), percorso_.c_str()) != 0) {
+    int numero = errore_da_errno(errno);
+    std::remove(temporaneo_.c_str());
+    throw errore_runtime(numero, percorso_);
+  }
+}
+
+}  // namespace schedine

@@ -1,0 +1,133 @@
+#include "core/file_sistema.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+
+#include "core/errore_runtime.h"
+
+namespace fs = std::filesystem;
+
+namespace schedine {
+
+namespace {
+
+char minuscola(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
+
+bool uguali_senza_maiuscole(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return minuscola(x) == minuscola(y);
+         });
+}
+
+bool minore_senza_maiuscole(const std::string& a, const std::string& b) {
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                      [](char x, char y) { return minuscola(x) < minuscola(y); });
+}
+
+// The entry of a folder whose name equals the given one without regard to case.
+std::optional<fs::path> trova_in_cartella(const fs::path& cartella, const std::string& nome) {
+  std::error_code ec;
+  for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
+    if (uguali_senza_maiuscole(it->path().filename().string(), nome)) return it->path();
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::string nel_programma(const std::string& cartella, std::string_view nome) {
+  std::string percorso = cartella;
+  if (percorso.empty() || percorso.back() != '/') percorso += '/';
+  percorso += nome;
+  return percorso;
+}
+
+std::string cartella_skin(const std::string& cartella) {
+  std::string percorso = cartella;
+  if (percorso.empty() || percorso.back() != '/') percorso += '/';
+  return percorso + "skin/";
+}
+
+std::string risolvi_percorso(const std::string& percorso) {
+  std::error_code ec;
+  if (percorso.empty() || fs::exists(percorso, ec)) return percorso;
+  // Walk the path from the first part that isn't there, matching each part
+  // without regard to case, as the system's own platform does.
+  fs::path richiesto(percorso);
+  fs::path trovato;
+  for (const auto& parte : richiesto) {
+    fs::path candidato = trovato / parte;
+    if (fs::exists(candidato, ec)) {
+      trovato = candidato;
+      continue;
+    }
+    auto corrispondente = trovato.empty() ? std::nullopt : trova_in_cartella(trovato, parte.string());
+    if (!corrispondente) return percorso;
+    trovato = *corrispondente;
+  }
+  return trovato.string();
+}
+
+bool esiste_file(const std::string& percorso) {
+  std::error_code ec;
+  return fs::is_regular_file(risolvi_percorso(percorso), ec);
+}
+
+void elimina_file(const std::string& percorso) {
+  std::string reale = risolvi_percorso(percorso);
+  std::error_code ec;
+  if (!fs::is_regular_file(reale, ec)) throw errore_runtime(codice::file_non_trovato, percorso);
+  if (!fs::remove(reale, ec)) throw errore_runtime(codice::autorizzazione_negata, percorso);
+}
+
+void crea_vuoto(const std::string& percorso) {
+  std::string reale = risolvi_percorso(percorso);
+  std::FILE* file = std::fopen(reale.c_str(), "wb");
+  if (file == nullptr) {
+    throw errore_runtime(errno == ENOENT ? codice::percorso_non_trovato : codice::autorizzazione_negata, percorso);
+  }
+  std::fclose(file);
+}
+
+bool corrisponde_schema(std::string_view nome, std::string_view schema) {
+  // Iterative wildcard match with backtracking to the last "*".
+  size_t n = 0, s = 0, stella = std::string_view::npos, ripresa = 0;
+  while (n < nome.size()) {
+    if (s < schema.size() && (schema[s] == '?' || minuscola(schema[s]) == minuscola(nome[n]))) {
+      ++n;
+      ++s;
+    } else if (s < schema.size() && schema[s] == '*') {
+      stella = s++;
+      ripresa = n;
+    } else if (stella != std::string_view::npos) {
+      s = stella + 1;
+      n = ++ripresa;
+    } else {
+      return false;
+    }
+  }
+  while (s < schema.size() && schema[s] == '*') ++s;
+  return s == schema.size();
+}
+
+std::vector<std::string> cerca_file(const std::string& percorso_con_schema) {
+  fs::path percorso(percorso_con_schema);
+  std::string schema = percorso.filename().string();
+  fs::path cartella = risolvi_percorso(percorso.parent_path().string());
+  std::vector<std::string> nomi;
+  std::error_code ec;
+  for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
+    std::error_code ec_tipo;
+    if (!it->is_regular_file(ec_tipo)) continue;
+    std::string nome = it->path().filename().string();
+    if (corrisponde_schema(nome, schema)) nomi.push_back(std::move(nome));
+  }
+  std::sort(nomi.begin(), nomi.end(), minore_senza_maiuscole);
+  return nomi;
+}
+
+}  // namespace schedine

@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include "core/errore_runtime.h"
+#include "core/file_record.h"
+#include "tests/support/cartella_temporanea.h"
+
+namespace schedine {
+namespace {
+
+class FileRecord : public ::testing::Test {
+ protected:
+  test::cartella_temporanea cartella;
+  lettore_record apri(const std::string& contenuto) { return lettore_record(cartella.scrivi("f", contenuto)); }
+};
+
+int numero_errore(const std::function<void()>& azione) {
+  try {
+    azione();
+  } catch (const errore_runtime& e) {
+    return e.numero();
+  }
+  return 0;
+}
+
+TEST_F(FileRecord, FieldsAreTakenRegardlessOfLineEnds) {
+  auto f = apri("1,2\r\n3\r\n4,5,\r\n\r\n6");
+  std::vector<std::string> campi;
+  while (!f.fine_file()) campi.push_back(f.leggi_campo());
+  EXPECT_EQ(campi, (std::vector<std::string>{"1", "2", "3", "4", "5", "", "", "6"}));
+}
+
+TEST_F(FileRecord, QuotedStringsKeepCommasAndBlanks) {
+  auto f = apri("\"0,50\",\"Euro\"\r\n  \" a, b \" ,x\r\n");
+  EXPECT_EQ(f.leggi_stringa(), "0,50");
+  EXPECT_EQ(f.leggi_stringa(), "Euro");
+  EXPECT_EQ(f.leggi_stringa(), " a, b ");
+  EXPECT_EQ(f.leggi_stringa(), "x");
+  EXPECT_TRUE(f.fine_file());
+}
+
+TEST_F(FileRecord, LastLineEndGivesNoExtraField) {
+  auto f = apri("7,8\r\n");
+  EXPECT_EQ(f.leggi_byte(), 7);
+  EXPECT_EQ(f.leggi_byte(), 8);
+  EXPECT_TRUE(f.fine_file());
+  EXPECT_EQ(numero_errore([&] { f.leggi_byte(); }), codice::input_oltre_fine);
+}
+
+TEST_F(FileRecord, NumbersBooleansAndTheirFailures) {
+  auto f = apri(" 12 ,-3.5,#TRUE#,#FALSE#,,abc,256,70000,2.5,3.5\n");
+  EXPECT_EQ(f.leggi_long(), 12);
+  EXPECT_DOUBLE_EQ(f.leggi_double(), -3.5);
+  EXPECT_TRUE(f.leggi_booleano());
+  EXPECT_FALSE(f.leggi_booleano());
+  EXPECT_EQ(f.leggi_long(), 0) << "an empty field reads 0";
+  EXPECT_EQ(numero_errore([&] { f.leggi_long(); }), codice::tipo_non_corrispondente);
+  EXPECT_EQ(numero_errore([&] { f.leggi_byte(); }), codice::overflow);
+  EXPECT_EQ(numero_errore([&] { f.leggi_integer(); }), codice::overflow);
+  EXPECT_EQ(f.leggi_integer(), 2) << "half to even";
+  EXPECT_EQ(f.leggi_integer(), 4);
+}
+
+TEST_F(FileRecord, SinglesReadBackBitForBit) {
+  auto f = apri("12.09,.5,-.4375,1e-7,3.4e39\r\n");
+  EXPECT_EQ(f.leggi_single(), 12.09f);
+  EXPECT_EQ(f.leggi_single(), 0.5f);
+  EXPECT_EQ(f.leggi_single(), -0.4375f);
+  EXPECT_EQ(f.leggi_single(), 1e-7f);
+  EXPECT_EQ(numero_errore([&] { f.leggi_single(); }), codice::overflow);
+}
+
+TEST_F(FileRecord, LineInputTakesRawText) {
+  auto f = apri("1,2,3,4,5,6\r\nseconda riga\nterza");
+  EXPECT_EQ(f.leggi_riga(), "1,2,3,4,5,6");
+  EXPECT_EQ(f.leggi_riga(), "seconda riga");
+  EXPECT_EQ(f.leggi_riga(), "terza");
+  EXPECT_EQ(numero_errore([&] { f.leggi_riga(); }), codice::input_oltre_fine);
+}
+
+TEST_F(FileRecord, MissingFileIsFileNotFoundNamingIt) {
+  try {
+    lettore_record f(cartella.file("manca"));
+    FAIL();
+  } catch (const errore_runtime& e) {
+    EXPECT_EQ(e.numero(), codice::file_non_trovato);
+    EXPECT_NE(e.rapporto().find("manca"), std::string::npos);
+  }
+}
+
+TEST_F(FileRecord, WriteFormsFieldsAsTheReaderTakesThem) {
+  scrittore_record w(cartella.file("w"));
+  w.scrivi({std::string("0,50"), std::string("Euro")});
+  w.scrivi({true});
+  w.scrivi({int64_t{1}, int64_t{-20}, false});
+  w.stampa_riga("x,y,");
+  w.chiudi();
+  EXPECT_EQ(cartella.leggi("w"), "\"0,50\",\"Euro\"\r\n#TRUE#\r\n1,-20,#FALSE#\r\nx,y,\r\n");
+}
+
+TEST_F(FileRecord, AnUnfinishedWriteLeavesTheOldFileWhole) {
+  cartella.scrivi("w", "vecchio\r\n");
+  {
+    scrittore_record w(cartella.file("w"));
+    w.stampa_riga("nuovo");
+  }  // no chiudi(): the write did not end
+  EXPECT_EQ(cartella.leggi("w"), "vecchio\r\n");
+  EXPECT_FALSE(std::filesystem::exists(cartella.file("w.tmp~")));
+}
+
+TEST_F(FileRecord, AWriteIntoAMissingFolderFailsClearly) {
+  EXPECT_EQ(numero_errore([&] { scrittore_record w(cartella.file("manca/w")); }), codice::percorso_non_trovato);
+}
+
+}  // namespace
+}  // namespace schedine
