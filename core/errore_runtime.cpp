@@ -17,6 +17,7 @@ const char* testo_errore(int numero) {
     case codice::errore_accesso: return "Errore di accesso al percorso/file";
     case codice::percorso_non_trovato: return "Impossibile trovare il percorso";
     case codice::oggetto_non_impostato: return "Variabile oggetto o variabile del blocco With non impostata";
+    case codice::elemento_inesistente: return "L'elemento della matrice di controlli non esiste";
     case codice::errore_stampante: return "Errore di stampa";
     default: return "Errore definito dall'applicazione o dall'oggetto";
   }

@@ -23,6 +23,7 @@ inline constexpr int autorizzazione_negata = 70;
 inline constexpr int errore_accesso = 75;
 inline constexpr int percorso_non_trovato = 76;
 inline constexpr int oggetto_non_impostato = 91;
+inline constexpr int elemento_inesistente = 340;
 inline constexpr int errore_stampante = 482;
 }  // namespace codice
 

@@ -236,6 +236,8 @@ template <class T>
 bool leggi_decimale_in(std::string_view testo, T& valore) {
   if (!testo.empty() && testo.front() == '+') testo.remove_prefix(1);
   if (testo.empty() || testo.front() == '+') return false;
+  // Only digits, sign, point and exponent: "inf" and "nan" are no numbers here.
+  if (testo.find_first_not_of("+-.0123456789eE") != std::string_view::npos) return false;
   auto risultato = std::from_chars(testo.data(), testo.data() + testo.size(), valore, std::chars_format::general);
   return risultato.ec == std::errc() && risultato.ptr == testo.data() + testo.size();
 }

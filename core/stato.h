@@ -12,12 +12,16 @@
 namespace schedine {
 
 class servizi_piattaforma;
+class insieme_moduli;
 
 struct stato {
   // The folder that holds the program and all its data files.
   std::string cartella_programma;
   formato_locale locale = formato_locale::italiano();
   servizi_piattaforma* piattaforma = nullptr;
+  // The forms of the program: the print code reads a few of their controls
+  // at print time and moves the progress bar of the form that runs the print.
+  insieme_moduli* moduli = nullptr;
 
   // Shared variables of the run.
   std::string tipo_gioco;

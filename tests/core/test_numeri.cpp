@@ -94,7 +94,7 @@ TEST(LeggiDecimale, AcceptsTheFormsOfTheFiles) {
   EXPECT_EQ(v, -0.5);
   EXPECT_TRUE(leggi_decimale("+3", v));
   EXPECT_EQ(v, 3);
-  for (const char* no : {"", "+", "1,5", "abc", "1.2.3", "++1"}) EXPECT_FALSE(leggi_decimale(no, v)) << no;
+  for (const char* no : {"", "+", "1,5", "abc", "1.2.3", "++1", "inf", "nan", "-infinity"}) EXPECT_FALSE(leggi_decimale(no, v)) << no;
 }
 
 }  // namespace

@@ -1,0 +1,36 @@
+#include "calibration/campi_tar.h"
+
+#include "core/errore_runtime.h"
+#include "core/file_sistema.h"
+#include "core/numeri.h"
+
+namespace schedine {
+
+std::string percorso_tar(const stato& s, const char* nome) { return nel_programma(s.cartella_programma, nome); }
+
+template <class Lettura>
+void lettura_tar::esegui(Lettura&& lettura) {
+  if (tollerante_) {
+    passa_oltre(lettura);
+  } else {
+    lettura();
+  }
+}
+
+void lettura_tar::leggi(float& valore) {
+  esegui([&] { valore = lettore_.leggi_single(); });
+}
+
+void lettura_tar::leggi(uint8_t& valore) {
+  esegui([&] { valore = lettore_.leggi_byte(); });
+}
+
+void lettura_tar::salta() {
+  esegui([&] { lettore_.salta_campo(); });
+}
+
+std::string testo_riga(float x, float y) { return testo_single(x) + "," + testo_single(y) + ","; }
+
+std::string testo_carattere(uint8_t carattere_stampa) { return carattere_stampa == 1 ? "1" : "2"; }
+
+}  // namespace schedine

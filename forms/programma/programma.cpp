@@ -1,0 +1,49 @@
+#include "forms/programma/programma.h"
+
+#include "forms/main/Form1.h"
+
+namespace schedine {
+
+namespace {
+
+// A form whose model is still to come: it opens and closes and shows its
+// title strip, and nothing else.
+class modulo_in_attesa : public modulo {
+ public:
+  using modulo::modulo;
+
+ protected:
+  void crea_controlli() override { aggiungi<etichetta>("lbltitolo"); }
+};
+
+}  // namespace
+
+const std::vector<std::string>& nomi_moduli() {
+  static const std::vector<std::string> nomi = {
+      "Form1",          "Form_sched_lotto_ambetto", "Form_sched_10elotto", "Form_sched_enalotto",
+      "Form_sched_wforlife5", "Form_sched_wforlife", "tar_lotto",      "tar_enalotto",
+      "tar_enalotto2",  "tar_wforlife",             "tar_wforlife5",
+  };
+  return nomi;
+}
+
+programma::programma(std::string cartella, servizi_piattaforma& piattaforma, formato_locale locale) {
+  s.cartella_programma = std::move(cartella);
+  s.piattaforma = &piattaforma;
+  s.locale = locale;
+  s.moduli = &moduli;
+  moduli.registra("Form1", [](stato& st, insieme_moduli& m) { return std::make_unique<Form1>(st, m); });
+  for (const auto& nome : nomi_moduli()) {
+    if (moduli.conosce(nome)) continue;
+    moduli.registra(nome, [nome](stato& st, insieme_moduli& m) { return std::make_unique<modulo_in_attesa>(nome, st, m); });
+  }
+}
+
+void programma::avvia() { moduli("Form1").mostra(); }
+
+void programma::termina() {
+  moduli("Form1").scarica();
+  moduli.programma_terminato = true;
+}
+
+}  // namespace schedine

@@ -1,0 +1,58 @@
+#include "printing/giornale.h"
+
+#include <charconv>
+#include <ostream>
+
+namespace schedine {
+
+std::string numero_giornale(float valore) {
+  // Shortest round-trip form; 64 characters hold any float in either notation.
+  char testo[64];
+  auto [fine, errore] = std::to_chars(testo, testo + sizeof testo, valore);
+  (void)errore;
+  return std::string(testo, fine);
+}
+
+std::string testo_giornale(std::string_view testo) {
+  std::string risultato;
+  risultato.reserve(testo.size() + 2);
+  risultato += '"';
+  for (char c : testo) {
+    if (c == '"') risultato += '"';
+    risultato += c;
+  }
+  risultato += '"';
+  return risultato;
+}
+
+riga_giornale::riga_giornale(std::string_view nome) : riga_(nome) {}
+
+riga_giornale& riga_giornale::numero(float valore) { return parola(numero_giornale(valore)); }
+
+riga_giornale& riga_giornale::intero(int64_t valore) { return parola(std::to_string(valore)); }
+
+riga_giornale& riga_giornale::testo(std::string_view valore) { return parola(testo_giornale(valore)); }
+
+riga_giornale& riga_giornale::parola(std::string_view valore) {
+  riga_ += ' ';
+  riga_ += valore;
+  return *this;
+}
+
+giornale::giornale(std::ostream& uscita) : uscita_(uscita) {}
+
+giornale::~giornale() { svuota(); }
+
+void giornale::scrivi(const riga_giornale& riga) { uscita_ << riga.str() << '\n'; }
+
+void giornale::messaggio(std::string_view testo) { scrivi(riga_giornale("messaggio").testo(testo)); }
+
+void giornale::ignorato(std::string_view controllo) { scrivi(riga_giornale("ignorato").parola(controllo)); }
+
+void giornale::avvia(std::string_view nome) { scrivi(riga_giornale("avvia").testo(nome)); }
+
+void giornale::errore(std::string_view testo) { scrivi(riga_giornale("errore").testo(testo)); }
+
+void giornale::svuota() { uscita_.flush(); }
+
+}  // namespace schedine

@@ -1,0 +1,93 @@
+#pragma once
+// The printing device on paper: QPainter on a QPagedPaintDevice, in
+// millimetres from the top left corner of the paper, full page, no margins.
+// One painting path serves both destinations: QPrinter on the system's default
+// printer (no dialog) and QPdfWriter for a PDF file. A QGuiApplication must
+// exist while the device draws text.
+//
+// A job begins at its first drawing or text, not before, so a job that draws
+// nothing sends nothing. nuova_pagina only notes that a page has ended: the
+// fresh page is fed when something is drawn on it, so the empty page left by
+// the last slip's nuova_pagina never reaches the paper.
+
+#include <QFont>
+#include <QPainter>
+#include <QPageLayout>
+#include <memory>
+#include <string>
+
+#include "printing/dispositivo_stampa.h"
+#include "printing/qt/misure_mm.h"
+
+class QPagedPaintDevice;
+class QPdfWriter;
+class QPrinter;
+
+namespace schedine {
+
+class dispositivo_qt : public dispositivo_stampa {
+ public:
+  // Every job of the device goes into the one PDF file, each job from a new
+  // page. The file is written when the first job draws, and finished by
+  // termina() or the device's end; a device that drew nothing writes no file.
+  static std::unique_ptr<dispositivo_qt> per_pdf(const std::string& percorso);
+  // Each job goes to the default printer at chiudi_stampa. Without a default
+  // printer the first operation that needs paper throws errore_runtime
+  // (printer error), and so does a printer that cannot be opened.
+  static std::unique_ptr<dispositivo_qt> per_stampante_predefinita();
+
+  // Finishes the PDF file, or sends a printer job left open. A PDF device
+  // draws nothing more after it.
+  ~dispositivo_qt() override;
+  void termina();
+
+  void imposta_scala_mm() override;
+  void imposta_modo_pagina(int modo) override;
+  void imposta_penna(int stile, int spessore) override;
+  void imposta_riempimento(int stile) override;
+  void imposta_riempimento(int stile, int32_t colore) override;
+  void disegna_punto_zero() override;
+  void disegna_cerchio(float x, float y, float raggio) override;
+  void disegna_rettangolo(float x1, float y1, float x2, float y2) override;
+  void imposta_font_nome(const std::string& nome) override;
+  void imposta_font_dimensione(float punti) override;
+  void imposta_font_grassetto(bool grassetto) override;
+  void posiziona_testo(float x, float y) override;
+  void stampa_testo(const std::string& testo) override;
+  int numero_pagina() override;
+  void nuova_pagina() override;
+  void chiudi_stampa() override;
+
+ private:
+  explicit dispositivo_qt(std::unique_ptr<QPdfWriter> pdf);
+
+  // The painter, ready on the page being drawn: opens the job and feeds the
+  // pages ended since the last drawing.
+  QPainter& pagina_pronta();
+  void apri_lavoro();
+  void apri_lavoro_pdf();
+  void apri_lavoro_stampante();
+  QPen penna() const;
+  QBrush pennello() const;
+
+  std::unique_ptr<QPdfWriter> pdf_;          // PDF destination; null for the printer
+  std::unique_ptr<QPrinter> stampante_;      // the printer of the open job
+  QPagedPaintDevice* foglio_ = nullptr;      // what the painter is on
+  QPainter pittore_;
+  misure_mm::scala scala_;
+
+  bool pdf_finito_ = false;
+  bool lavoro_aperto_ = false;
+  int pagine_da_alimentare_ = 0;
+  int pagina_ = 1;
+
+  QPageLayout::Orientation orientamento_ = QPageLayout::Portrait;
+  int spessore_penna_ = 1;
+  int stile_riempimento_ = 1;  // none, until a job sets it
+  int32_t colore_riempimento_ = 0;
+  QFont font_;
+  float testo_x_ = 0.0f;
+  float testo_y_ = 0.0f;
+};
+
+}  // namespace schedine

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Installs, on Debian 12, the packages the build and the tests need and that
+# are missing. Safe to run again: it installs nothing when all are there.
+set -euo pipefail
+
+pacchetti=(
+  g++ cmake ninja-build pkg-config
+  googletest libgtest-dev libgmock-dev libbenchmark-dev
+  qt6-base-dev libgl-dev
+  fonts-liberation fontconfig poppler-utils
+  xvfb xauth
+)
+
+mancanti=()
+for p in "${pacchetti[@]}"; do
+  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+    mancanti+=("$p")
+  fi
+done
+
+if [ ${#mancanti[@]} -gt 0 ]; then
+  echo "Installo: ${mancanti[*]}"
+  sudo_cmd=""
+  [ "$(id -u)" -ne 0 ] && sudo_cmd="sudo"
+  export DEBIAN_FRONTEND=noninteractive
+  $sudo_cmd apt-get update -qq
+  $sudo_cmd apt-get install -y -qq --no-install-recommends "${mancanti[@]}"
+fi
