@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <map>
+#include <mutex>
 #include <optional>
 
 #include "core/errore_runtime.h"
@@ -28,13 +30,45 @@ bool minore_senza_maiuscole(const std::string& a, const std::string& b) {
                                       [](char x, char y) { return minuscola(x) < minuscola(y); });
 }
 
+// The names of a folder by their lower-case form, kept while the folder
+// stays unchanged: a search for a name in another case then costs a lookup,
+// not a walk of the folder, which matters for folders of thousands of systems.
+struct elenco_cartella {
+  fs::file_time_type modifica;
+  std::map<std::string, std::string> per_minuscolo;
+};
+
+std::string in_minuscolo(std::string testo) {
+  for (char& c : testo) c = minuscola(c);
+  return testo;
+}
+
+const elenco_cartella* elenco_di(const fs::path& cartella) {
+  static std::mutex guardia;
+  static std::map<std::string, elenco_cartella> cache;
+  std::error_code ec;
+  auto modifica = fs::last_write_time(cartella, ec);
+  if (ec) return nullptr;
+  std::lock_guard<std::mutex> blocco(guardia);
+  auto& voce = cache[cartella.string()];
+  if (voce.per_minuscolo.empty() || voce.modifica != modifica) {
+    voce.modifica = modifica;
+    voce.per_minuscolo.clear();
+    for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
+      std::string nome = it->path().filename().string();
+      voce.per_minuscolo.emplace(in_minuscolo(nome), nome);
+    }
+  }
+  return &voce;
+}
+
 // The entry of a folder whose name equals the given one without regard to case.
 std::optional<fs::path> trova_in_cartella(const fs::path& cartella, const std::string& nome) {
-  std::error_code ec;
-  for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
-    if (uguali_senza_maiuscole(it->path().filename().string(), nome)) return it->path();
-  }
-  return std::nullopt;
+  const elenco_cartella* elenco = elenco_di(cartella);
+  if (elenco == nullptr) return std::nullopt;
+  auto trovato = elenco->per_minuscolo.find(in_minuscolo(nome));
+  if (trovato == elenco->per_minuscolo.end()) return std::nullopt;
+  return cartella / trovato->second;
 }
 
 }  // namespace
