@@ -26,6 +26,8 @@ class Form1 : public modulo {
   void trova_cruciverba_lotto();
   // Loads skin number 1 to 9 and remembers the number in skn.dat.
   void carica_skin(int numero);
+  // Closing the main window ends the program, with the unload as its clean-up.
+  void chiudi_utente() override { termina_programma(); }
 
  protected:
   void crea_controlli() override;

@@ -1,0 +1,143 @@
+// schedine-scenario: runs a scenario of user events on the program in a
+// folder, without a screen, and writes the journal of what it did.
+//
+//   schedine-scenario [--folder DIR] [--journal FILE] [--pdf FILE] [--locale NAME] SCENARIO
+//
+// Exit status: 0 ran and every check held, 1 a check failed, 2 a line not
+// understood or naming an unknown form, control or variable, 3 a run-time
+// error ended the program.
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include "printing/giornale.h"
+#include "tools/scenario/esecuzione.h"
+#include "tools/scenario/esito.h"
+#include "tools/scenario/uscita_pdf.h"
+
+namespace {
+
+using namespace schedine;
+using namespace schedine::scenario;
+
+struct opzioni {
+  std::string cartella = ".";
+  std::optional<std::string> giornale;
+  std::optional<std::string> pdf;
+  std::string locale = "it_IT";
+  std::string scenario;
+};
+
+constexpr const char* uso =
+    "usage: schedine-scenario [--folder DIR] [--journal FILE] [--pdf FILE] [--locale NAME] SCENARIO\n";
+
+// Reads "--name VALUE" or "--name=VALUE"; false when argv[i] is another option.
+bool opzione(const char* nome, int argc, char** argv, int& i, std::string& valore) {
+  std::string argomento = argv[i];
+  std::string lungo = std::string("--") + nome;
+  if (argomento.rfind(lungo + "=", 0) == 0) {
+    valore = argomento.substr(lungo.size() + 1);
+    return true;
+  }
+  if (argomento != lungo) return false;
+  if (i + 1 >= argc) throw std::invalid_argument(lungo + " needs a value");
+  valore = argv[++i];
+  return true;
+}
+
+opzioni leggi_opzioni(int argc, char** argv) {
+  opzioni o;
+  for (int i = 1; i < argc; ++i) {
+    std::string valore;
+    if (opzione("folder", argc, argv, i, valore)) {
+      o.cartella = valore;
+    } else if (opzione("journal", argc, argv, i, valore)) {
+      o.giornale = valore;
+    } else if (opzione("pdf", argc, argv, i, valore)) {
+      o.pdf = valore;
+    } else if (opzione("locale", argc, argv, i, valore)) {
+      o.locale = valore;
+    } else if (std::string(argv[i]).rfind("--", 0) == 0 || !o.scenario.empty()) {
+      throw std::invalid_argument(std::string("unexpected argument ") + argv[i]);
+    } else {
+      o.scenario = argv[i];
+    }
+  }
+  if (o.scenario.empty()) throw std::invalid_argument("no scenario given");
+  return o;
+}
+
+std::optional<std::string> leggi_file(const std::string& percorso) {
+  std::ifstream ingresso(percorso, std::ios::binary);
+  if (!ingresso) return std::nullopt;
+  std::ostringstream contenuto;
+  contenuto << ingresso.rdbuf();
+  return contenuto.str();
+}
+
+int esegui(const opzioni& o) {
+  std::optional<std::string> testo = leggi_file(o.scenario);
+  if (!testo) {
+    std::cerr << o.scenario << ": cannot read the scenario\n";
+    return esito::non_valido;
+  }
+  std::error_code ec;
+  if (!std::filesystem::is_directory(o.cartella, ec)) {
+    std::cerr << o.cartella << ": no such folder\n";
+    return esito::non_valido;
+  }
+  std::unique_ptr<uscita_pdf> pdf;
+  if (o.pdf) {
+    if (!pdf_disponibile()) {
+      std::cerr << "--pdf is not available: this build has no Qt\n";
+      return esito::non_valido;
+    }
+    pdf = apri_uscita_pdf(*o.pdf);
+  }
+  std::ofstream file_giornale;
+  if (o.giornale) {
+    file_giornale.open(*o.giornale, std::ios::binary | std::ios::trunc);
+    if (!file_giornale) {
+      std::cerr << *o.giornale << ": cannot write the journal\n";
+      return esito::non_valido;
+    }
+  }
+  std::ostream& uscita = o.giornale ? static_cast<std::ostream&>(file_giornale) : std::cout;
+
+  risultato r;
+  {
+    giornale g(uscita);
+    r = esegui_testo_scenario(*testo, o.cartella, formato_locale::da_nome(o.locale), g,
+                              pdf ? &pdf->dispositivo() : nullptr);
+  }
+  if (pdf) pdf->termina();
+  if (r.stato != esito::riuscito) {
+    std::cerr << o.scenario << ":" << r.riga << ": ";
+    if (r.stato == esito::errore_programma) std::cerr << "run-time error: ";
+    std::cerr << r.messaggio << "\n";
+  }
+  return r.stato;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  opzioni o;
+  try {
+    o = leggi_opzioni(argc, argv);
+  } catch (const std::invalid_argument& e) {
+    std::cerr << e.what() << "\n" << uso;
+    return esito::non_valido;
+  }
+  try {
+    return esegui(o);
+  } catch (const std::exception& e) {
+    std::cerr << "internal fault: " << e.what() << "\n";
+    return esito::guasto_interno;
+  }
+}
