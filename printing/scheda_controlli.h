@@ -17,7 +17,7 @@ class modulo;
 inline constexpr int casella_spuntata = 1;
 
 // A slip form by name. A state without forms is "object not set".
-modulo& modulo_scheda(stato& s, const std::string& nome_modulo);
+modulo& modulo_di_stampa(stato& s, const std::string& nome_modulo);
 
 // The value of a check box: 0 unticked, 1 ticked, 2 greyed.
 int valore_casella(stato& s, const std::string& nome_modulo, const std::string& nome, int indice);
