@@ -1,5 +1,7 @@
 #include "forms/programma/programma.h"
 
+#include "forms/calibration/moduli_taratura.h"
+#include "forms/lotto/Form_sched_lotto_ambetto.h"
 #include "forms/main/Form1.h"
 
 namespace schedine {
@@ -33,6 +35,9 @@ programma::programma(std::string cartella, servizi_piattaforma& piattaforma, for
   s.locale = locale;
   s.moduli = &moduli;
   moduli.registra("Form1", [](stato& st, insieme_moduli& m) { return std::make_unique<Form1>(st, m); });
+  registra_moduli_taratura(moduli);
+  moduli.registra("Form_sched_lotto_ambetto",
+                  [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_lotto_ambetto>(st, m); });
   for (const auto& nome : nomi_moduli()) {
     if (moduli.conosce(nome)) continue;
     moduli.registra(nome, [nome](stato& st, insieme_moduli& m) { return std::make_unique<modulo_in_attesa>(nome, st, m); });
