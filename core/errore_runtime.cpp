@@ -6,6 +6,7 @@ const char* testo_errore(int numero) {
   switch (numero) {
     case codice::chiamata_non_valida: return "Chiamata di routine o argomento non validi";
     case codice::overflow: return "Overflow";
+    case codice::divisione_per_zero: return "Divisione per zero";
     case codice::indice_fuori_intervallo: return "Indice non compreso nell'intervallo";
     case codice::tipo_non_corrispondente: return "Tipo non corrispondente";
     case codice::nome_file_non_valido: return "Nome o numero di file non valido";

@@ -12,6 +12,7 @@ namespace schedine {
 namespace codice {
 inline constexpr int chiamata_non_valida = 5;
 inline constexpr int overflow = 6;
+inline constexpr int divisione_per_zero = 11;
 inline constexpr int indice_fuori_intervallo = 9;
 inline constexpr int tipo_non_corrispondente = 13;
 inline constexpr int nome_file_non_valido = 52;

@@ -1,6 +1,9 @@
 #include "forms/programma/programma.h"
 
 #include "forms/calibration/moduli_taratura.h"
+#include "forms/enalotto_wforlife/Form_sched_enalotto.h"
+#include "forms/enalotto_wforlife/Form_sched_wforlife.h"
+#include "forms/enalotto_wforlife/Form_sched_wforlife5.h"
 #include "forms/lotto/Form_sched_lotto_ambetto.h"
 #include "forms/main/Form1.h"
 
@@ -38,6 +41,12 @@ programma::programma(std::string cartella, servizi_piattaforma& piattaforma, for
   registra_moduli_taratura(moduli);
   moduli.registra("Form_sched_lotto_ambetto",
                   [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_lotto_ambetto>(st, m); });
+  moduli.registra("Form_sched_enalotto",
+                  [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_enalotto>(st, m); });
+  moduli.registra("Form_sched_wforlife5",
+                  [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_wforlife5>(st, m); });
+  moduli.registra("Form_sched_wforlife",
+                  [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_wforlife>(st, m); });
   for (const auto& nome : nomi_moduli()) {
     if (moduli.conosce(nome)) continue;
     moduli.registra(nome, [nome](stato& st, insieme_moduli& m) { return std::make_unique<modulo_in_attesa>(nome, st, m); });

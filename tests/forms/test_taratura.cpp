@@ -91,7 +91,7 @@ TEST_F(Taratura, LottoInterlinePreviewMovesEachColumnAndRowByItsWeight) {
   EXPECT_EQ(testo(f, "lblInterY"), "-1");
 }
 
-TEST_F(Taratura, LottoLeavesByEsciOnlyClosingTheWindowLeavesTheMainFormHidden) {
+TEST_F(Taratura, LottoLeavesByEsciAndByClosingItsWindow) {
   modulo& f = apri("Command7", "tar_lotto");
   const int eventi = piattaforma.eventi;
   clic(f, "cmdesci");
@@ -99,8 +99,12 @@ TEST_F(Taratura, LottoLeavesByEsciOnlyClosingTheWindowLeavesTheMainFormHidden) {
   EXPECT_GT(piattaforma.eventi, eventi);
   EXPECT_TRUE(p.moduli("Form1").visibile());
 
-  apri("Command7", "tar_lotto").chiudi_utente();
+  // Closing the window leaves as Esci does: the main form comes back.
+  modulo& di_nuovo = apri("Command7", "tar_lotto");
   EXPECT_FALSE(p.moduli("Form1").visibile());
+  di_nuovo.chiudi_utente();
+  EXPECT_FALSE(di_nuovo.caricato());
+  EXPECT_TRUE(p.moduli("Form1").visibile());
 }
 
 // ---------------------------------------------------------------- panel forms
