@@ -26,7 +26,8 @@ int errore_da_errno(int numero_errno) {
   switch (numero_errno) {
     case ENOENT: return codice::percorso_non_trovato;
     case ENOSPC:
-    case EDQUOT: return codice::disco_pieno;
+    case EDQUOT:
+    case EFBIG: return codice::disco_pieno;  // no room for the file to grow, whatever the limit
     case EACCES:
     case EPERM:
     case EROFS: return codice::autorizzazione_negata;
@@ -110,10 +111,7 @@ double lettore_record::leggi_double() {
   if (testo == "#TRUE#") return -1.0;
   if (testo == "#FALSE#") return 0.0;
   double valore = 0.0;
-  if (!leggi_decimale(testo, valore)) {
-    errore(testo.find_first_not_of("+-.0123456789eE") == std::string::npos && !testo.empty() ? codice::overflow
-                                                                                         : codice::tipo_non_corrispondente);
-  }
+  if (!leggi_decimale(testo, valore)) errore(codice::tipo_non_corrispondente);
   if (std::isinf(valore)) errore(codice::overflow);
   return valore;
 }
@@ -124,15 +122,11 @@ float lettore_record::leggi_single() {
   if (testo.empty() && !tra_virgolette) return 0.0f;
   if (testo == "#TRUE#") return -1.0f;
   if (testo == "#FALSE#") return 0.0f;
+  // A number too small for a Single reads as 0, one too large is Overflow.
   float valore = 0.0f;
-  if (leggi_decimale(testo, valore)) return valore;
-  double largo = 0.0;
-  if (leggi_decimale(testo, largo)) {
-    // A number beyond a Single's range; one too small for it reads as 0.
-    if (std::fabs(largo) < 1.0) return 0.0f;
-    errore(codice::overflow);
-  }
-  errore(codice::tipo_non_corrispondente);
+  if (!leggi_decimale(testo, valore)) errore(codice::tipo_non_corrispondente);
+  if (std::isinf(valore)) errore(codice::overflow);
+  return valore;
 }
 
 int32_t lettore_record::leggi_long() {
@@ -169,6 +163,7 @@ bool lettore_record::leggi_booleano() {
   if (testo == "#FALSE#" || testo == "False" || testo == "FALSE" || testo == "false" || testo.empty()) return false;
   double valore = 0.0;
   if (!leggi_decimale(testo, valore)) errore(codice::tipo_non_corrispondente);
+  if (std::isinf(valore)) errore(codice::overflow);
   return valore != 0.0;
 }
 

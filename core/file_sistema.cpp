@@ -19,12 +19,6 @@ namespace {
 
 char minuscola(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
 
-bool uguali_senza_maiuscole(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return minuscola(x) == minuscola(y);
-         });
-}
-
 bool minore_senza_maiuscole(const std::string& a, const std::string& b) {
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
                                       [](char x, char y) { return minuscola(x) < minuscola(y); });

@@ -1,5 +1,8 @@
 #include "core/numeri.h"
 
+#include <locale.h>
+#include <stdlib.h>
+
 #include <cctype>
 #include <charconv>
 #include <cfloat>
@@ -8,6 +11,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
 #include "core/errore_runtime.h"
 
@@ -74,9 +78,19 @@ std::string raccogli_numero(std::string_view testo, Accetta accetta, char decima
   return numero;
 }
 
+// The C library's reading of a number in the "C" locale, whatever locale the
+// process runs in: a desktop toolkit sets the user's at start, and an
+// Italian one would take the comma as the decimal mark and stop at the point.
+locale_t locale_c() {
+  static const locale_t c = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
+  return c;
+}
+double strtod_c(const char* testo, char** fine) { return strtod_l(testo, fine, locale_c()); }
+float strtof_c(const char* testo, char** fine) { return strtof_l(testo, fine, locale_c()); }
+
 double converti_c(const std::string& numero) {
   if (numero.empty()) return 0.0;
-  double valore = std::strtod(numero.c_str(), nullptr);
+  double valore = strtod_c(numero.c_str(), nullptr);
   if (std::isinf(valore)) throw errore_runtime(codice::overflow);
   return valore;
 }
@@ -234,12 +248,27 @@ std::string testo_single(float valore) {
 namespace {
 template <class T>
 bool leggi_decimale_in(std::string_view testo, T& valore) {
-  if (!testo.empty() && testo.front() == '+') testo.remove_prefix(1);
-  if (testo.empty() || testo.front() == '+') return false;
+  const bool piu = !testo.empty() && testo.front() == '+';
+  if (piu) testo.remove_prefix(1);
+  // One sign at most: "+-5" and "++5" are no numbers.
+  if (testo.empty() || testo.front() == '+' || (piu && testo.front() == '-')) return false;
   // Only digits, sign, point and exponent: "inf" and "nan" are no numbers here.
   if (testo.find_first_not_of("+-.0123456789eE") != std::string_view::npos) return false;
-  auto risultato = std::from_chars(testo.data(), testo.data() + testo.size(), valore, std::chars_format::general);
-  return risultato.ec == std::errc() && risultato.ptr == testo.data() + testo.size();
+  const char* fine = testo.data() + testo.size();
+  auto risultato = std::from_chars(testo.data(), fine, valore, std::chars_format::general);
+  if (risultato.ptr != fine) return false;
+  if (risultato.ec == std::errc::result_out_of_range) {
+    // A number all the same, beyond the type's range either way: the C
+    // library tells which, giving an infinity or 0 (or a subnormal).
+    const std::string numero(testo);
+    if constexpr (std::is_same_v<T, float>) {
+      valore = strtof_c(numero.c_str(), nullptr);
+    } else {
+      valore = strtod_c(numero.c_str(), nullptr);
+    }
+    return true;
+  }
+  return risultato.ec == std::errc();
 }
 }  // namespace
 

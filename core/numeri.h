@@ -41,7 +41,8 @@ std::string testo_single(float valore);
 
 // Reads a decimal text with a point, as written by testo_single and also in
 // the forms ".5", "-.5", "+3" and with an exponent. Returns false when the
-// text is no number.
+// text is no number. A number beyond the type's range reads as an infinity
+// of its sign, one too small for it as 0 or the nearest subnormal.
 bool leggi_decimale(std::string_view testo, double& valore);
 // The same straight into a Single, so that testo_single's text reads back bit for bit.
 bool leggi_decimale(std::string_view testo, float& valore);

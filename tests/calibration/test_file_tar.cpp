@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -333,14 +334,51 @@ TEST_F(FileTar, AFailedSaveLeavesTheOldFileWhole) {
   EXPECT_EQ(file_nella_cartella, std::size(files)) << "no temporary file is left behind";
 }
 
+// The run-time error number of the action, run as a user without privileges
+// when this one has them (a super-user writes into read-only folders): in a
+// child process that takes the identity of "nobody" and exits with the number.
+int numero_errore_senza_privilegi(const std::function<void()>& azione) {
+  if (geteuid() != 0) return numero_errore(azione);
+  pid_t figlio = fork();
+  if (figlio == 0) {
+    constexpr uid_t nessuno = 65534;
+    if (setgid(nessuno) != 0 || setuid(nessuno) != 0) _exit(255);
+    _exit(numero_errore(azione));
+  }
+  int stato_figlio = 0;
+  if (figlio < 0 || waitpid(figlio, &stato_figlio, 0) != figlio || !WIFEXITED(stato_figlio)) return -1;
+  return WEXITSTATUS(stato_figlio);
+}
+
 TEST_F(FileTar, ASaveIntoAReadOnlyFolderFailsAndKeepsTheOldFile) {
-  salva_tar_enalotto(s);
-  const std::string vecchio = cartella.leggi("taren");
-  std::filesystem::permissions(cartella.str(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  if (access(cartella.str().c_str(), W_OK) == 0) GTEST_SKIP() << "this user writes into read-only folders";
-  s.tab_coord(1, 1, 0) = 5.0f;
-  EXPECT_EQ(numero_errore([&] { salva_tar_enalotto(s); }), codice::autorizzazione_negata);
-  EXPECT_EQ(cartella.leggi("taren"), vecchio);
+  for (const auto& f : files) {
+    SCOPED_TRACE(f.nome);
+    default_tar_enalotto(s);
+    f.salva(s);
+    const std::string vecchio = cartella.leggi(f.nome);
+    // Readable and searchable by anyone, writable by no one.
+    namespace fs = std::filesystem;
+    fs::permissions(cartella.str(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::group_read |
+                                        fs::perms::group_exec | fs::perms::others_read | fs::perms::others_exec);
+    riempi(s, 3);
+    EXPECT_EQ(numero_errore_senza_privilegi([&] { f.salva(s); }), codice::autorizzazione_negata);
+    std::filesystem::permissions(cartella.str(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(cartella.leggi(f.nome), vecchio);
+  }
+}
+
+TEST_F(FileTar, AFullDiskIsReportedAsSuchNamingTheFile) {
+  for (const auto& f : files) {
+    SCOPED_TRACE(f.nome);
+    limite_file limite(200);
+    try {
+      f.salva(s);
+      ADD_FAILURE() << "a save that does not fit must fail";
+    } catch (const errore_runtime& e) {
+      EXPECT_EQ(e.numero(), codice::disco_pieno);
+      EXPECT_NE(e.dettaglio().find(f.nome), std::string::npos);
+    }
+  }
 }
 
 TEST_F(FileTar, EnsuringACalibrationMakesItOnlyWhenMissing) {

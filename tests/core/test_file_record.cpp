@@ -60,6 +60,43 @@ TEST_F(FileRecord, NumbersBooleansAndTheirFailures) {
   EXPECT_EQ(f.leggi_integer(), 4);
 }
 
+// A number too large for its type is "Overflow"; a text that is no number,
+// however close it comes to one, is "Tipo non corrispondente"; a number too
+// small for its type reads as 0.
+TEST_F(FileRecord, OnlyANumberTooLargeIsOverflow) {
+  struct caso {
+    const char* testo;
+    int errore_double;
+    double come_double;  // when it reads
+    int errore_single;   // a Single that reads is 0 in every case here
+  };
+  const int tipo = codice::tipo_non_corrispondente;
+  const caso casi[] = {
+      {"1.2.3", tipo, 0, tipo},   {"-", tipo, 0, tipo},
+      {"1e", tipo, 0, tipo},      {"+-5", tipo, 0, tipo},
+      {"1e103.4e38", tipo, 0, tipo},
+      {"1e400", codice::overflow, 0, codice::overflow},
+      {"-1e400", codice::overflow, 0, codice::overflow},
+      {"3.5e38", 0, 3.5e38, codice::overflow},
+      {"1e-400", 0, 0.0, 0},      {"-1e-50", 0, -1e-50, 0},
+  };
+  std::string contenuto;
+  for (const auto& c : casi) contenuto += std::string(c.testo) + "," + c.testo + "\r\n";
+  auto f = apri(contenuto);
+  for (const auto& c : casi) {
+    double d = -1;
+    float s = -1;
+    EXPECT_EQ(numero_errore([&] { d = f.leggi_double(); }), c.errore_double) << c.testo;
+    EXPECT_EQ(numero_errore([&] { s = f.leggi_single(); }), c.errore_single) << c.testo;
+    if (c.errore_double == 0) {
+      EXPECT_EQ(d, c.come_double) << c.testo;
+    }
+    if (c.errore_single == 0) {
+      EXPECT_EQ(s, 0.0f) << c.testo;
+    }
+  }
+}
+
 TEST_F(FileRecord, SinglesReadBackBitForBit) {
   auto f = apri("12.09,.5,-.4375,1e-7,3.4e39\r\n");
   EXPECT_EQ(f.leggi_single(), 12.09f);

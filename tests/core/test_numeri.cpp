@@ -1,7 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <cstdlib>
+#include <limits>
+#include <string>
+
 #include "core/errore_runtime.h"
 #include "core/numeri.h"
+#include "tests/support/cartella_temporanea.h"
 
 namespace schedine {
 namespace {
@@ -94,7 +100,66 @@ TEST(LeggiDecimale, AcceptsTheFormsOfTheFiles) {
   EXPECT_EQ(v, -0.5);
   EXPECT_TRUE(leggi_decimale("+3", v));
   EXPECT_EQ(v, 3);
-  for (const char* no : {"", "+", "1,5", "abc", "1.2.3", "++1", "inf", "nan", "-infinity"}) EXPECT_FALSE(leggi_decimale(no, v)) << no;
+  for (const char* no : {"", "+", "1,5", "abc", "1.2.3", "++1", "+-1", "inf", "nan", "-infinity"}) EXPECT_FALSE(leggi_decimale(no, v)) << no;
+}
+
+TEST(LeggiDecimale, ANumberBeyondTheTypeIsInfiniteOrZero) {
+  double d = 1;
+  EXPECT_TRUE(leggi_decimale("1e400", d));
+  EXPECT_EQ(d, std::numeric_limits<double>::infinity());
+  EXPECT_TRUE(leggi_decimale("-1e400", d));
+  EXPECT_EQ(d, -std::numeric_limits<double>::infinity());
+  EXPECT_TRUE(leggi_decimale("1e-400", d));
+  EXPECT_EQ(d, 0.0);
+  float f = 1;
+  EXPECT_TRUE(leggi_decimale("3.5e38", f));
+  EXPECT_EQ(f, std::numeric_limits<float>::infinity());
+  EXPECT_TRUE(leggi_decimale("1e-50", f));
+  EXPECT_EQ(f, 0.0f);
+}
+
+// Sets LC_NUMERIC to a locale whose decimal mark is the comma, as a desktop
+// toolkit does at start for an Italian user, and puts the old one back.
+// Without one installed, builds it_IT in a folder of its own if the machine
+// has the locale sources.
+class locale_con_virgola {
+ public:
+  locale_con_virgola() {
+    prima_ = std::setlocale(LC_NUMERIC, nullptr);
+    if (prova()) return;
+    if (std::system(("localedef -i it_IT -f UTF-8 " + cartella_.file("it_IT.UTF-8") + " >/dev/null 2>&1").c_str()) == 0) {
+      setenv("LOCPATH", cartella_.str().c_str(), 1);
+      prova();
+    }
+  }
+  ~locale_con_virgola() {
+    std::setlocale(LC_NUMERIC, prima_.c_str());
+    unsetenv("LOCPATH");
+  }
+  bool attivo() const { return attivo_; }
+
+ private:
+  bool prova() {
+    for (const char* nome : {"it_IT.UTF-8", "it_IT.utf8", "de_DE.UTF-8", "fr_FR.UTF-8"}) {
+      if (std::setlocale(LC_NUMERIC, nome) != nullptr && std::localeconv()->decimal_point[0] == ',') return attivo_ = true;
+    }
+    return false;
+  }
+  std::string prima_;
+  test::cartella_temporanea cartella_;
+  bool attivo_ = false;
+};
+
+TEST(NumeriNelLocaleDelProcesso, ThePointStaysTheDecimalMarkWhateverTheProcessLocale) {
+  locale_con_virgola locale;
+  if (!locale.attivo()) GTEST_SKIP() << "no locale with a decimal comma on this machine";
+  EXPECT_DOUBLE_EQ(numero_iniziale("12.50"), 12.5);
+  EXPECT_DOUBLE_EQ(numero_iniziale("0.75 euro"), 0.75);
+  EXPECT_DOUBLE_EQ(numero_locale("1.234,50", formato_locale::italiano()), 1234.5);
+  EXPECT_DOUBLE_EQ(numero_locale("0.50", formato_locale::inglese()), 0.5);
+  double d = 0;
+  EXPECT_TRUE(leggi_decimale("1e-400", d));
+  EXPECT_EQ(d, 0.0);
 }
 
 }  // namespace

@@ -1,0 +1,22 @@
+#pragma once
+// Puts what a control model holds on the widget that shows it: caption,
+// value, enabled and visible flags, list entries and selection, grid cells
+// and colours, progress, and the position where the view leaves it to the
+// model. Only what differs is touched, so a refresh after every event costs
+// little and doesn't disturb a list's scroll position or a box's cursor.
+
+#include <QColor>
+#include <cstdint>
+
+class QWidget;
+
+namespace schedine {
+
+class controllo;
+
+void aggiorna_widget(QWidget& widget, const controllo& c);
+
+// A colour of the models (0x00BBGGRR, as the original platform writes colours).
+QColor colore_da_modello(int32_t colore);
+
+}  // namespace schedine
