@@ -1,8 +1,6 @@
 #include "forms/lotto/Form_sched_lotto_ambetto.h"
 
-#include "calibration/fabbrica.h"
 #include "calibration/file_tar.h"
-#include "core/file_sistema.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "forms/controls/insieme_moduli.h"
@@ -126,17 +124,7 @@ void Form_sched_lotto_ambetto::cmdstampa_click() {
     return;
   }
   passa_oltre([&] { inizializza_variabili(); });
-  // A print always reloads the slip's calibration, so that only what was saved reaches paper.
-  if (!esiste_file(nel_programma(s.cartella_programma, "tarlo2"))) passa_oltre([&] { default_tar_lotto(s); });
-  passa_oltre([&] { carica_tar_lotto(s); });
-  passa_oltre([&] { s.dalla_scheda = a_long(numero_locale(c<casella_testo>("txtdalla").testo(), s.locale)); });
-  passa_oltre([&] { s.alla_scheda = a_long(numero_locale(c<casella_testo>("txtalla").testo(), s.locale)); });
-  passa_oltre([&] {
-    c<barra_avanzamento>("ProgressBar1").massimo = a_long(static_cast<double>(s.alla_scheda) - s.dalla_scheda + 1);
-  });
-  passa_oltre([&] { c<barra_avanzamento>("ProgressBar1").imposta_valore(0); });
-  passa_oltre([&] { c<cornice>("Frame2").visibile = true; });
-  passa_oltre([&] { s.piattaforma->esegui_eventi_in_attesa(); });
+  prepara_stampa();
   // The driver has no cover of its own: a run that stops half-way ends here, silently.
   passa_oltre([&] { stampa_lotto(s, s.tipo_gioco); });
 }

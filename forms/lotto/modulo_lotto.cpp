@@ -82,12 +82,12 @@ void modulo_lotto::crea_riga_totale(controllo& griglia, int prima_nascosta) {
   }
 }
 
-void modulo_lotto::crea_teste_colonne(controllo& frameeuro, const tabella_importi& tabella) {
+void modulo_lotto::crea_teste_colonne(controllo& frameeuro, const tabella_importi& tabella, const std::string& nome) {
   // Each head is a picture of its amount, a quarter turn, over its column.
   for (int colonna = 0; colonna < colonne_puntata; ++colonna) {
     valuta importo = tabella[static_cast<size_t>(colonna)];
     if (importo == valuta()) continue;
-    auto& testa = aggiungi<immagine>("Image1", colonna, &frameeuro);
+    auto& testa = aggiungi<immagine>(nome, colonna, &frameeuro);
     testa.caption = testo_testa(importo);
     testa.sinistra = sinistra_colonna[static_cast<size_t>(colonna)] - frameeuro.sinistra;
     testa.larghezza = 17 * 15;

@@ -78,8 +78,9 @@ class modulo_lotto : public modulo {
                  const std::string& caption = {});
   // The TOTALE row: ChTotale1(0) and ChTotale(1..17), hidden from column prima_nascosta on.
   void crea_riga_totale(controllo& griglia, int prima_nascosta);
-  // The amount heads of the columns that have an amount.
-  void crea_teste_colonne(controllo& frameeuro, const tabella_importi& tabella);
+  // The amount heads of the columns that have an amount, as the pictures
+  // nome(column) inside the frame of the heads.
+  void crea_teste_colonne(controllo& frameeuro, const tabella_importi& tabella, const std::string& nome = "Image1");
   void crea_ruote(controllo& frame1);
   void crea_titolo();
   // Label1(44..46), txtdalla and txtalla, with their rules.
@@ -113,6 +114,20 @@ class modulo_lotto : public modulo {
   void copia_prima_spuntata(const std::string& nome, int ultimo, vettore<uint8_t, 10>& tabella);
   void copia_righe_puntata();
 
+  // ---- print
+  // What every print run does before its driver: the calibration of the
+  // slip reloaded (made from factory values when its file is missing), the
+  // range read from the boxes, the progress bar reset and its frame shown.
+  void prepara_stampa();
+
+  // ---- budget display
+  // "TUTTE" counts as one wheel and the national wheel not at all; with no
+  // wheel the sums are shown for one.
+  int16_t conta_ruote_budget();
+  // lblimporto and lblcredito: the budget and what is left of it, times the wheels.
+  void mostra_budget(int16_t ruote);
+  void mostra_credito(int16_t ruote);
+
   // ---- shared statements
   bool spuntata(const std::string& nome, int indice = -1);
   void spunta(const std::string& nome, int indice, int valore);
@@ -123,8 +138,7 @@ class modulo_lotto : public modulo {
  private:
   template <class Tabella>
   void copia_prima(const std::string& nome, int ultimo, Tabella& tabella);
-  int16_t conta_ruote_budget();
-  void mostra_budget(int16_t ruote);
+  std::string in_euro(valuta importo, int16_t ruote) const;
   int prossimo_testo_ = 0;
   int prossimo_bordo_ = 0;
 };

@@ -14,8 +14,6 @@ constexpr valuta limite_budget = valuta::da_decimillesimi(2000000);
 
 }  // namespace
 
-// "TUTTE" counts as one wheel and the national wheel not at all; with no
-// wheel the sums are shown for one.
 int16_t modulo_lotto::conta_ruote_budget() {
   int16_t ruote = 0;
   for (int i = 0; i < 10; ++i) {
@@ -25,12 +23,17 @@ int16_t modulo_lotto::conta_ruote_budget() {
   return ruote == 0 ? int16_t{1} : ruote;
 }
 
+std::string modulo_lotto::in_euro(valuta importo, int16_t ruote) const {
+  return "€ " + formatta_numero((importo * ruote).a_double(), "###,##0.00", s.locale);
+}
+
 void modulo_lotto::mostra_budget(int16_t ruote) {
-  auto in_euro = [&](valuta importo) {
-    return "€ " + formatta_numero((importo * ruote).a_double(), "###,##0.00", s.locale);
-  };
-  passa_oltre([&] { lblimporto().caption = in_euro(importo_giocata); });
-  passa_oltre([&] { c<etichetta>("lblcredito").caption = in_euro(importo_residuo); });
+  passa_oltre([&] { lblimporto().caption = in_euro(importo_giocata, ruote); });
+  mostra_credito(ruote);
+}
+
+void modulo_lotto::mostra_credito(int16_t ruote) {
+  passa_oltre([&] { c<etichetta>("lblcredito").caption = in_euro(importo_residuo, ruote); });
 }
 
 void modulo_lotto::chtotale_click(int indice) {

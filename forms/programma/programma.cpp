@@ -4,6 +4,7 @@
 #include "forms/enalotto_wforlife/Form_sched_enalotto.h"
 #include "forms/enalotto_wforlife/Form_sched_wforlife.h"
 #include "forms/enalotto_wforlife/Form_sched_wforlife5.h"
+#include "forms/lotto/Form_sched_10elotto.h"
 #include "forms/lotto/Form_sched_lotto_ambetto.h"
 #include "forms/main/Form1.h"
 
@@ -41,6 +42,8 @@ programma::programma(std::string cartella, servizi_piattaforma& piattaforma, for
   registra_moduli_taratura(moduli);
   moduli.registra("Form_sched_lotto_ambetto",
                   [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_lotto_ambetto>(st, m); });
+  moduli.registra("Form_sched_10elotto",
+                  [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_10elotto>(st, m); });
   moduli.registra("Form_sched_enalotto",
                   [](stato& st, insieme_moduli& m) { return std::make_unique<Form_sched_enalotto>(st, m); });
   moduli.registra("Form_sched_wforlife5",
