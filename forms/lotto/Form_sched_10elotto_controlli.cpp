@@ -130,37 +130,12 @@ void Form_sched_10elotto::crea_importo_e_comandi() {
     aggiungi<etichetta>(t.nome, t.indice, &frame5).caption = t.caption;
   }
   crea_intervallo(frame5);
-  struct posto {
-    const char* nome;
-    int indice;
-    float sinistra, alto, larghezza, altezza;
-  };
-  for (const auto& p : {posto{"Label1", 43, 120, 240, 1800, 255}, posto{"lblimporto", -1, 2040, 240, 1800, 255},
-                        posto{"Label1", 42, 120, 600, 1800, 255}, posto{"lblcredito", -1, 2040, 600, 1800, 255},
-                        posto{"Label1", 44, 120, 1000, 1800, 255}, posto{"Label1", 45, 120, 1360, 480, 255},
-                        posto{"txtdalla", -1, 600, 1300, 900, 315}, posto{"Label1", 46, 1620, 1360, 360, 255},
-                        posto{"txtalla", -1, 2040, 1300, 900, 315}}) {
-    controllo& cc = trova(p.nome, p.indice);
-    cc.sinistra = p.sinistra;
-    cc.alto = p.alto;
-    cc.larghezza = p.larghezza;
-    cc.altezza = p.altezza;
-  }
-  struct comando {
-    const char* nome;
-    int indice;
-    const char* caption;
-    float sinistra;
-  };
-  for (const auto& p : {comando{"cmdstampa", 1, "Stampa", 120}, comando{"cmdannulla", 3, "Annulla", 1500},
-                        comando{"cmdexit", 3, "Esci", 2880}}) {
-    auto& bottone = aggiungi<pulsante>(p.nome, p.indice, &frame5);
-    bottone.caption = p.caption;
-    bottone.sinistra = p.sinistra;
-    bottone.alto = 1900;
-    bottone.larghezza = 1200;
-    bottone.altezza = 495;
-  }
+  colloca({{"Label1", 43, 120, 240, 1800, 255}, {"lblimporto", -1, 2040, 240, 1800, 255},
+           {"Label1", 42, 120, 600, 1800, 255}, {"lblcredito", -1, 2040, 600, 1800, 255},
+           {"Label1", 44, 120, 1000, 1800, 255}, {"Label1", 45, 120, 1360, 480, 255},
+           {"txtdalla", -1, 600, 1300, 900, 315}, {"Label1", 46, 1620, 1360, 360, 255},
+           {"txtalla", -1, 2040, 1300, 900, 315}});
+  crea_comandi(frame5, 1900, 1200, 1500, 2880);
 }
 
 void Form_sched_10elotto::crea_10elotto() {

@@ -109,35 +109,10 @@ void Form_sched_lotto_ambetto::crea_importo_e_comandi() {
   importo.sinistra = 2040;
   importo.alto = 240;
   crea_intervallo(frame5);
-  struct posto {
-    const char* nome;
-    int indice;
-    float sinistra, alto, larghezza, altezza;
-  };
-  for (const auto& p : {posto{"Label1", 44, 120, 720, 1800, 255}, posto{"Label1", 45, 120, 1080, 480, 255},
-                        posto{"txtdalla", -1, 600, 1020, 900, 315}, posto{"Label1", 46, 1620, 1080, 360, 255},
-                        posto{"txtalla", -1, 2040, 1020, 900, 315}}) {
-    controllo& cc = trova(p.nome, p.indice);
-    cc.sinistra = p.sinistra;
-    cc.alto = p.alto;
-    cc.larghezza = p.larghezza;
-    cc.altezza = p.altezza;
-  }
-  struct comando {
-    const char* nome;
-    int indice;
-    const char* caption;
-    float sinistra;
-  };
-  for (const auto& p : {comando{"cmdstampa", 1, "Stampa", 120}, comando{"cmdannulla", 3, "Annulla", 1200},
-                        comando{"cmdexit", 3, "Esci", 2280}}) {
-    auto& bottone = aggiungi<pulsante>(p.nome, p.indice, &frame5);
-    bottone.caption = p.caption;
-    bottone.sinistra = p.sinistra;
-    bottone.alto = 1800;
-    bottone.larghezza = 1000;
-    bottone.altezza = 495;
-  }
+  colloca({{"Label1", 44, 120, 720, 1800, 255}, {"Label1", 45, 120, 1080, 480, 255},
+           {"txtdalla", -1, 600, 1020, 900, 315}, {"Label1", 46, 1620, 1080, 360, 255},
+           {"txtalla", -1, 2040, 1020, 900, 315}});
+  crea_comandi(frame5, 1800, 1000, 1200, 2280);
 }
 
 void Form_sched_lotto_ambetto::crea_10elotto() {

@@ -115,6 +115,35 @@ void modulo_lotto::crea_titolo() {
   aggiungi<etichetta>("lbltitolo", -1, &frame6);
 }
 
+void modulo_lotto::colloca(std::initializer_list<posto> posti) {
+  for (const auto& p : posti) {
+    controllo& cc = trova(p.nome, p.indice);
+    cc.sinistra = p.sinistra;
+    cc.alto = p.alto;
+    cc.larghezza = p.larghezza;
+    cc.altezza = p.altezza;
+  }
+}
+
+void modulo_lotto::crea_comandi(controllo& frame5, float alto, float larghezza, float sinistra_annulla,
+                                float sinistra_esci) {
+  struct comando {
+    const char* nome;
+    int indice;
+    const char* caption;
+    float sinistra;
+  };
+  for (const auto& p : {comando{"cmdstampa", 1, "Stampa", 120}, comando{"cmdannulla", 3, "Annulla", sinistra_annulla},
+                        comando{"cmdexit", 3, "Esci", sinistra_esci}}) {
+    auto& bottone = aggiungi<pulsante>(p.nome, p.indice, &frame5);
+    bottone.caption = p.caption;
+    bottone.sinistra = p.sinistra;
+    bottone.alto = alto;
+    bottone.larghezza = larghezza;
+    bottone.altezza = 495;
+  }
+}
+
 void modulo_lotto::crea_intervallo(controllo& frame5) {
   aggiungi<etichetta>("Label1", 44, &frame5).caption = "Stampa schedine";
   aggiungi<etichetta>("Label1", 45, &frame5).caption = "dalla";

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "core/stato.h"
@@ -85,6 +86,15 @@ class modulo_lotto : public modulo {
   void crea_titolo();
   // Label1(44..46), txtdalla and txtalla, with their rules.
   void crea_intervallo(controllo& frame5);
+  // Places controls already made: name, index, and their box in twips.
+  struct posto {
+    const char* nome;
+    int indice;
+    float sinistra, alto, larghezza, altezza;
+  };
+  void colloca(std::initializer_list<posto> posti);
+  // "Stampa", "Annulla" and "Esci" in a row at the foot of Frame5.
+  void crea_comandi(controllo& frame5, float alto, float larghezza, float sinistra_annulla, float sinistra_esci);
   // Frame2 with Label3 and ProgressBar1, hidden until a print run.
   void crea_avanzamento();
   // The border shape drawn inside a frame.
