@@ -9,6 +9,7 @@ pacchetti=(
   qt6-base-dev libgl-dev
   fonts-liberation fontconfig poppler-utils
   xvfb xauth
+  cups printer-driver-cups-pdf
   clang libclang-rt-14-dev locales
 )
 
