@@ -1,25 +1,48 @@
 // Print runs of large systems, with the factory calibration: a cinquina
 // system of one column a line (one slip a line) and a SuperEnalotto system
-// at 5 columns a slip, each at two sizes, printed to the journal (into a
-// stream that drops it) and to a PDF through the Qt device.
+// at 5 columns a slip, each at two sizes, printed to the journal (a file) and
+// to a PDF through the Qt device; and, for each, its floor: the same output
+// made with no system logic.
 //
-// Counters: slips per second, and the peak resident memory of the process
-// (getrusage ru_maxrss, in KiB). The peak only ever grows within a process,
-// so run one benchmark per process (--benchmark_filter) to compare sizes:
-// the readers stream the file and a page is forgotten once it is ended, so
-// the peak should not follow the number of slips.
+//   lotto/giornale/N, enalotto/giornale/N   the run into a journal file
+//   lotto/pdf/N, enalotto/pdf/N             the run into a PDF (Qt device)
+//   */pavimento_giornale/N                  the run's journal lines, made in
+//                                           advance, written to the same file
+//   */pavimento_pdf/N                       the run's marks, worked out in
+//                                           advance, drawn by a bare QPainter
+//                                           loop on a QPdfWriter, under the
+//                                           allocator setting of the device
+// N is the number of columns of the system. Only the print (or the floor's
+// drawing) is timed; the system file and the floor's marks are made before.
+//
+// Counters: slips per CPU second of the print, and the peak resident memory
+// of the process (getrusage ru_maxrss, in KiB). The peak only ever grows
+// within a process, so run one benchmark per process (--benchmark_filter) to
+// compare sizes: the readers stream the file and a page is forgotten once it
+// is ended, so the peak should not follow the number of slips. The floors
+// hold all their marks in memory: their peak is not a floor. The allocator
+// setting holds for the rest of a process once made, another reason to run
+// one benchmark per process.
+//
+// The timed body of an iteration is corsa_misurata, so that
+// `valgrind --tool=callgrind --toggle-collect='*corsa_misurata*'` counts the
+// instructions of the print alone. scripts/bench.sh runs them all.
 
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 
 #include <QGuiApplication>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <memory>
-#include <ostream>
 #include <random>
+#include <sstream>
 #include <string>
+#include <vector>
 
+#include "bench/pavimento_pdf.h"
 #include "calibration/assicura_tar.h"
 #include "core/piattaforma.h"
 #include "core/stato.h"
@@ -72,7 +95,12 @@ class cartella_bench {
     percorso_ = std::filesystem::temp_directory_path() / ("schedine-bench-stampa-" + std::to_string(caso()));
     std::filesystem::create_directories(percorso_);
   }
+  // SCHEDINE_BENCH_CONSERVA=1 keeps the folder, to look at what a run wrote.
   ~cartella_bench() {
+    if (!qEnvironmentVariableIsEmpty("SCHEDINE_BENCH_CONSERVA")) {
+      std::fprintf(stderr, "cartella conservata: %s\n", percorso_.c_str());
+      return;
+    }
     std::error_code ec;
     std::filesystem::remove_all(percorso_, ec);
   }
@@ -94,7 +122,43 @@ class cartella_bench {
   std::filesystem::path percorso_;
 };
 
-enum class uscita { giornale, pdf };
+// One system to print: how many slips it makes, how its folder and state are
+// made ready, and the print itself.
+struct sistema_bench {
+  int64_t schede = 0;
+  std::function<void(stato&, const cartella_bench&)> prepara;
+  std::function<void(stato&)> stampa;
+};
+
+sistema_bench sistema_lotto(int colonne) {
+  return {colonne,
+          [colonne](stato& s, const cartella_bench& c) {
+            assicura_tar_lotto(s);
+            c.scrivi_colonne("cinquina/benchcad.txt", colonne, 5);
+            s.tipo_gioco = "cinquina";
+            s.tipo_sistema = "casuale";
+            s.sistema_scelto = " benchcud.txt";
+            s.dalla_scheda = 1;
+            s.alla_scheda = 0;
+          },
+          [](stato& s) { stampa_lotto(s, s.tipo_gioco); }};
+}
+
+sistema_bench sistema_enalotto(int colonne) {
+  return {(colonne + 4) / 5,
+          [colonne](stato& s, const cartella_bench& c) {
+            assicura_tar_enalotto(s);
+            c.scrivi_colonne("superenalotto/benchsye.txt", colonne, 6);
+            s.tipo_gioco = "superenalotto";
+            s.tipo_sistema = "condizionato";
+            s.sistema_scelto = " benchnue.txt";
+            s.colonne_sistema = colonne;
+            s.colonne_per_scheda = 5;
+            s.dalla_scheda = 1;
+            s.alla_scheda = 0;
+          },
+          [](stato& s) { stampa_enalotto(s, s.tipo_sistema, 1.0f); }};
+}
 
 // One slip form under every name, so the forms cost the same in both games.
 void registra_moduli(insieme_moduli& moduli) {
@@ -109,74 +173,134 @@ long picco_kib() {
   return uso.ru_maxrss;
 }
 
-// Runs one print per iteration on a fresh device; the system file is made once.
-template <class Prepara, class Stampa>
-void misura(benchmark::State& state, uscita dove, int64_t schede, Prepara prepara, Stampa stampa) {
-  cartella_bench cartella;
-  stato s;
-  s.cartella_programma = cartella.str();
-  insieme_moduli moduli(s);
-  registra_moduli(moduli);
-  s.moduli = &moduli;
-  prepara(s, cartella);
-  for (auto _ : state) {
-    std::ostream scarto(nullptr);
-    giornale g(scarto);
-    dispositivo_giornale su_giornale(g);
-    std::unique_ptr<dispositivo_qt> su_pdf;
-    if (dove == uscita::pdf) su_pdf = dispositivo_qt::per_pdf(cartella.file("corsa.pdf"));
-    piattaforma_bench piattaforma(su_pdf ? static_cast<dispositivo_stampa&>(*su_pdf) : su_giornale);
+// A program state over a bench folder with the system ready to print.
+struct banco_stampa {
+  explicit banco_stampa(const sistema_bench& sistema) : moduli(s) {
+    s.cartella_programma = cartella.str();
+    registra_moduli(moduli);
+    s.moduli = &moduli;
+    sistema.prepara(s, cartella);
+  }
+
+  // Prints the system once on the device.
+  void stampa_su(const sistema_bench& sistema, dispositivo_stampa& dispositivo) {
+    piattaforma_bench piattaforma(dispositivo);
     s.piattaforma = &piattaforma;
-    stampa(s);
-    if (su_pdf) su_pdf->termina();
+    sistema.stampa(s);
     s.piattaforma = nullptr;
   }
-  state.counters["schede_al_s"] = benchmark::Counter(static_cast<double>(schede * state.iterations()),
-                                                     benchmark::Counter::kIsRate);
+
+  cartella_bench cartella;
+  stato s;
+  insieme_moduli moduli;
+};
+
+// The timed body of every iteration, kept out of line so that callgrind can
+// count it alone.
+[[gnu::noinline]] void corsa_misurata(const std::function<void()>& corpo) { corpo(); }
+
+void conta(benchmark::State& state, int64_t schede) {
+  state.counters["schede_al_s"] =
+      benchmark::Counter(static_cast<double>(schede * state.iterations()), benchmark::Counter::kIsRate);
+  state.counters["schede"] = static_cast<double>(schede);
   state.counters["picco_kib"] = static_cast<double>(picco_kib());
 }
 
-void lotto(benchmark::State& state, uscita dove) {
-  const int righe = static_cast<int>(state.range(0));
-  misura(state, dove, righe,
-         [&](stato& s, const cartella_bench& c) {
-           assicura_tar_lotto(s);
-           c.scrivi_colonne("cinquina/benchcad.txt", righe, 5);
-           s.tipo_gioco = "cinquina";
-           s.tipo_sistema = "casuale";
-           s.sistema_scelto = " benchcud.txt";
-           s.dalla_scheda = 1;
-           s.alla_scheda = 0;
-         },
-         [](stato& s) { stampa_lotto(s, s.tipo_gioco); });
+// The runs.
+
+void giornale_di(benchmark::State& state, const sistema_bench& sistema) {
+  banco_stampa banco(sistema);
+  const std::string file = banco.cartella.file("corsa.giornale");
+  for (auto _ : state) {
+    corsa_misurata([&] {
+      std::ofstream uscita(file, std::ios::binary);
+      giornale g(uscita);
+      dispositivo_giornale su_giornale(g);
+      banco.stampa_su(sistema, su_giornale);
+    });
+  }
+  conta(state, sistema.schede);
 }
 
-void enalotto(benchmark::State& state, uscita dove) {
-  const int colonne = static_cast<int>(state.range(0));
-  misura(state, dove, (colonne + 4) / 5,
-         [&](stato& s, const cartella_bench& c) {
-           assicura_tar_enalotto(s);
-           c.scrivi_colonne("superenalotto/benchsye.txt", colonne, 6);
-           s.tipo_gioco = "superenalotto";
-           s.tipo_sistema = "condizionato";
-           s.sistema_scelto = " benchnue.txt";
-           s.colonne_sistema = colonne;
-           s.colonne_per_scheda = 5;
-           s.dalla_scheda = 1;
-           s.alla_scheda = 0;
-         },
-         [](stato& s) { stampa_enalotto(s, s.tipo_sistema, 1.0f); });
+void pdf_di(benchmark::State& state, const sistema_bench& sistema) {
+  banco_stampa banco(sistema);
+  const std::string file = banco.cartella.file("corsa.pdf");
+  for (auto _ : state) {
+    corsa_misurata([&] {
+      auto su_pdf = dispositivo_qt::per_pdf(file);
+      banco.stampa_su(sistema, *su_pdf);
+      su_pdf->termina();
+    });
+  }
+  conta(state, sistema.schede);
 }
 
-void imposta(benchmark::internal::Benchmark* b, int piccolo, int grande, int ripetizioni) {
-  b->Arg(piccolo)->Arg(grande)->Iterations(1)->Repetitions(ripetizioni)->ReportAggregatesOnly(true)->Unit(
-      benchmark::kMillisecond);
+// The floors.
+
+std::vector<std::string> righe_del_giornale(banco_stampa& banco, const sistema_bench& sistema) {
+  std::ostringstream testo;
+  {
+    giornale g(testo);
+    dispositivo_giornale su_giornale(g);
+    banco.stampa_su(sistema, su_giornale);
+  }
+  std::vector<std::string> righe;
+  std::istringstream lettura(testo.str());
+  for (std::string riga; std::getline(lettura, riga);) righe.push_back(std::move(riga));
+  return righe;
 }
 
-BENCHMARK_CAPTURE(lotto, giornale, uscita::giornale)->Apply([](benchmark::internal::Benchmark* b) { imposta(b, 10'000, 100'000, 5); });
-BENCHMARK_CAPTURE(enalotto, giornale, uscita::giornale)->Apply([](benchmark::internal::Benchmark* b) { imposta(b, 10'000, 100'000, 5); });
-BENCHMARK_CAPTURE(lotto, pdf, uscita::pdf)->Apply([](benchmark::internal::Benchmark* b) { imposta(b, 10'000, 100'000, 3); });
-BENCHMARK_CAPTURE(enalotto, pdf, uscita::pdf)->Apply([](benchmark::internal::Benchmark* b) { imposta(b, 10'000, 100'000, 3); });
+void pavimento_giornale_di(benchmark::State& state, const sistema_bench& sistema) {
+  banco_stampa banco(sistema);
+  const auto righe = righe_del_giornale(banco, sistema);
+  const std::string file = banco.cartella.file("pavimento.giornale");
+  for (auto _ : state) {
+    corsa_misurata([&] {
+      std::ofstream uscita(file, std::ios::binary);
+      for (const auto& riga : righe) uscita << riga << '\n';
+      uscita.flush();
+    });
+  }
+  conta(state, sistema.schede);
+}
+
+// The floor runs under the allocator setting that the Qt device applies at
+// its first job. Left to glibc's defaults, the same loop is up to twice as
+// slow or not, depending on where the marks it holds sit in the heap.
+void pavimento_pdf_di(benchmark::State& state, const sistema_bench& sistema) {
+  trattieni_memoria_pdf();
+  banco_stampa banco(sistema);
+  pavimento::registro_pdf registro;
+  banco.stampa_su(sistema, registro);
+  const auto segni = registro.prendi();
+  const QString file = QString::fromStdString(banco.cartella.file("pavimento.pdf"));
+  for (auto _ : state) {
+    corsa_misurata([&] { pavimento::disegna_pavimento(segni, file); });
+  }
+  conta(state, sistema.schede);
+}
+
+using misura_bench = void (*)(benchmark::State&, const sistema_bench&);
+using sistema_di = sistema_bench (*)(int);
+
+void registra(const std::string& gioco, sistema_di sistema, const std::string& uscita, misura_bench misura) {
+  for (int colonne : {10'000, 100'000}) {
+    benchmark::RegisterBenchmark((gioco + "/" + uscita + "/" + std::to_string(colonne)).c_str(),
+                                 [=](benchmark::State& state) { misura(state, sistema(colonne)); })
+        ->Iterations(1)
+        ->Unit(benchmark::kMillisecond);
+  }
+}
+
+void registra_tutti() {
+  const std::pair<const char*, sistema_di> giochi[] = {{"lotto", sistema_lotto}, {"enalotto", sistema_enalotto}};
+  for (const auto& [gioco, sistema] : giochi) {
+    registra(gioco, sistema, "giornale", giornale_di);
+    registra(gioco, sistema, "pavimento_giornale", pavimento_giornale_di);
+    registra(gioco, sistema, "pdf", pdf_di);
+    registra(gioco, sistema, "pavimento_pdf", pavimento_pdf_di);
+  }
+}
 
 }  // namespace
 
@@ -185,6 +309,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication applicazione(argc, argv);
   benchmark::Initialize(&argc, argv);
+  registra_tutti();
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   return 0;

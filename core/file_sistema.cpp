@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <map>
@@ -19,17 +20,18 @@ namespace {
 
 char minuscola(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
 
-bool minore_senza_maiuscole(const std::string& a, const std::string& b) {
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                      [](char x, char y) { return minuscola(x) < minuscola(y); });
-}
-
 // The names of a folder by their lower-case form, kept while the folder
 // stays unchanged: a search for a name in another case then costs a lookup,
 // not a walk of the folder, which matters for folders of thousands of systems.
+struct voce_cartella {
+  std::string nome;
+  bool file;  // a plain file, not a folder
+};
 struct elenco_cartella {
   fs::file_time_type modifica;
-  std::map<std::string, std::string> per_minuscolo;
+  bool letto = false;
+  // By lower-case name, so also in case-insensitive name order.
+  std::multimap<std::string, voce_cartella> per_minuscolo;
 };
 
 std::string in_minuscolo(std::string testo) {
@@ -45,12 +47,17 @@ const elenco_cartella* elenco_di(const fs::path& cartella) {
   if (ec) return nullptr;
   std::lock_guard<std::mutex> blocco(guardia);
   auto& voce = cache[cartella.string()];
-  if (voce.per_minuscolo.empty() || voce.modifica != modifica) {
+  // A folder's time may not move for changes a few milliseconds apart, so a
+  // folder changed in the last seconds is read again every time.
+  bool recente = fs::file_time_type::clock::now() - modifica < std::chrono::seconds(2);
+  if (!voce.letto || voce.modifica != modifica || recente) {
     voce.modifica = modifica;
+    voce.letto = true;
     voce.per_minuscolo.clear();
     for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
+      std::error_code ec_tipo;
       std::string nome = it->path().filename().string();
-      voce.per_minuscolo.emplace(in_minuscolo(nome), nome);
+      voce.per_minuscolo.emplace(in_minuscolo(nome), voce_cartella{nome, it->is_regular_file(ec_tipo)});
     }
   }
   return &voce;
@@ -62,7 +69,7 @@ std::optional<fs::path> trova_in_cartella(const fs::path& cartella, const std::s
   if (elenco == nullptr) return std::nullopt;
   auto trovato = elenco->per_minuscolo.find(in_minuscolo(nome));
   if (trovato == elenco->per_minuscolo.end()) return std::nullopt;
-  return cartella / trovato->second;
+  return cartella / trovato->second.nome;
 }
 
 }  // namespace
@@ -147,15 +154,12 @@ std::vector<std::string> cerca_file(const std::string& percorso_con_schema) {
   std::string schema = percorso.filename().string();
   fs::path cartella = risolvi_percorso(percorso.parent_path().string());
   std::vector<std::string> nomi;
-  std::error_code ec;
-  for (fs::directory_iterator it(cartella, ec), fine; !ec && it != fine; it.increment(ec)) {
-    std::error_code ec_tipo;
-    if (!it->is_regular_file(ec_tipo)) continue;
-    std::string nome = it->path().filename().string();
-    if (corrisponde_schema(nome, schema)) nomi.push_back(std::move(nome));
+  const elenco_cartella* elenco = elenco_di(cartella);
+  if (elenco == nullptr) return nomi;
+  for (const auto& [minuscolo, voce] : elenco->per_minuscolo) {
+    if (voce.file && corrisponde_schema(voce.nome, schema)) nomi.push_back(voce.nome);
   }
-  std::sort(nomi.begin(), nomi.end(), minore_senza_maiuscole);
-  return nomi;
+  return nomi;  // the index is in case-insensitive name order already
 }
 
 }  // namespace schedine

@@ -8,6 +8,11 @@
 
 #include "core/errore_runtime.h"
 
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+#include <mutex>
+
 namespace schedine {
 
 namespace {
@@ -26,6 +31,18 @@ QPageLayout pagina_intera(const QPageSize& formato, QPageLayout::Orientation ori
 }
 
 }  // namespace
+
+void trattieni_memoria_pdf() {
+#if defined(__GLIBC__)
+  static std::once_flag fatto;
+  std::call_once(fatto, [] {
+    // Blocks up to 32 MB (glibc's ceiling) come from the heap, not from a
+    // mapping of their own, and up to 64 MB free at the top of the heap stay.
+    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
+  });
+#endif
+}
 
 std::unique_ptr<dispositivo_qt> dispositivo_qt::per_pdf(const std::string& percorso) {
   auto pdf = std::make_unique<QPdfWriter>(QString::fromStdString(percorso));
@@ -63,6 +80,9 @@ QPainter& dispositivo_qt::pagina_pronta() {
 }
 
 void dispositivo_qt::apri_lavoro() {
+  trattieni_memoria_pdf();
+  // A new painter or paper may hold another font and another resolution.
+  font_applicato_valido_ = false;
   if (pdf_) {
     apri_lavoro_pdf();
   } else {
@@ -135,6 +155,13 @@ QBrush dispositivo_qt::pennello() const {
   return QBrush(QColor(c.rosso, c.verde, c.blu));
 }
 
+void dispositivo_qt::applica_forma(QPainter& p) {
+  const QPen voluta = penna();
+  if (p.pen() != voluta) p.setPen(voluta);
+  const QBrush voluto = pennello();
+  if (p.brush() != voluto) p.setBrush(voluto);
+}
+
 void dispositivo_qt::disegna_punto_zero() {
   QPainter& p = pagina_pronta();
   // One device dot at the origin, black whatever the fill state.
@@ -144,16 +171,14 @@ void dispositivo_qt::disegna_punto_zero() {
 void dispositivo_qt::disegna_cerchio(float x, float y, float raggio) {
   QPainter& p = pagina_pronta();
   const auto r = misure_mm::rettangolo_cerchio(scala_, x, y, raggio);
-  p.setPen(penna());
-  p.setBrush(pennello());
+  applica_forma(p);
   p.drawEllipse(QRectF(r.x, r.y, r.larghezza, r.altezza));
 }
 
 void dispositivo_qt::disegna_rettangolo(float x1, float y1, float x2, float y2) {
   QPainter& p = pagina_pronta();
   const auto r = misure_mm::rettangolo_angoli(scala_, x1, y1, x2, y2);
-  p.setPen(penna());
-  p.setBrush(pennello());
+  applica_forma(p);
   p.drawRect(QRectF(r.x, r.y, r.larghezza, r.altezza));
 }
 
@@ -172,17 +197,28 @@ void dispositivo_qt::posiziona_testo(float x, float y) {
   testo_y_ = y;
 }
 
+void dispositivo_qt::applica_testo(QPainter& p) {
+  if (!font_applicato_valido_ || font_applicato_ != font_) {
+    p.setFont(font_);
+    const QFontMetricsF metriche(font_, foglio_);
+    ascesa_ = metriche.ascent();
+    altezza_riga_ = metriche.height();
+    font_applicato_ = font_;
+    font_applicato_valido_ = true;
+  }
+  const QPen voluta(Qt::black);
+  if (p.pen() != voluta) p.setPen(voluta);
+}
+
 void dispositivo_qt::stampa_testo(const std::string& testo) {
   QPainter& p = pagina_pronta();
+  applica_testo(p);
   // The text position is the top of the line; the painter wants the baseline.
-  const QFontMetricsF metriche(font_, foglio_);
   const auto inizio = misure_mm::in_punti(scala_, testo_x_, testo_y_);
-  p.setFont(font_);
-  p.setPen(QPen(Qt::black));
-  p.drawText(QPointF(inizio.x, inizio.y + metriche.ascent()), QString::fromStdString(testo));
+  p.drawText(QPointF(inizio.x, inizio.y + ascesa_), QString::fromStdString(testo));
   // The next line starts at the left edge, one line lower.
   testo_x_ = 0.0f;
-  testo_y_ += static_cast<float>(misure_mm::altezza_in_mm(scala_, metriche.height()));
+  testo_y_ += static_cast<float>(misure_mm::altezza_in_mm(scala_, altezza_riga_));
 }
 
 // Pages and jobs.

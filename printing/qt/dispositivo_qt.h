@@ -25,6 +25,16 @@ class QPrinter;
 
 namespace schedine {
 
+// Qt's PDF engine (behind QPdfWriter and, on Linux, QPrinter) takes two 16 MB
+// buffers to compress each page and frees them at once. With glibc's default
+// thresholds that memory goes back to the system after every page and comes
+// back, page faults and all, at the next: up to half the time of a print.
+// This keeps such blocks in the process instead (the pages touched stay few,
+// so the resident size does not grow). The device applies it at its first
+// job; it is public so that a bare QPdfWriter loop can run under the same
+// conditions. Applies once per process; does nothing off glibc.
+void trattieni_memoria_pdf();
+
 class dispositivo_qt : public dispositivo_stampa {
  public:
   // Every job of the device goes into the one PDF file, each job from a new
@@ -69,6 +79,10 @@ class dispositivo_qt : public dispositivo_stampa {
   void apri_lavoro_stampante();
   QPen penna() const;
   QBrush pennello() const;
+  // Pen, brush and font go to the painter only when they differ from what it
+  // holds: every change costs the PDF engine a state update.
+  void applica_forma(QPainter& p);
+  void applica_testo(QPainter& p);
 
   std::unique_ptr<QPdfWriter> pdf_;          // PDF destination; null for the printer
   std::unique_ptr<QPrinter> stampante_;      // the printer of the open job
@@ -86,6 +100,11 @@ class dispositivo_qt : public dispositivo_stampa {
   int stile_riempimento_ = 1;  // none, until a job sets it
   int32_t colore_riempimento_ = 0;
   QFont font_;
+  // The font the painter holds and its metrics on foglio_; stale when false.
+  bool font_applicato_valido_ = false;
+  QFont font_applicato_;
+  double ascesa_ = 0.0;      // dots from the top of a line to its baseline
+  double altezza_riga_ = 0.0;  // dots from one line to the next
   float testo_x_ = 0.0f;
   float testo_y_ = 0.0f;
 };
