@@ -47,14 +47,14 @@ select Form1.List1 0
 click Form1.cmdok
 click Form_sched_lotto_ambetto.ChRuote(0)
 click Form_sched_lotto_ambetto.ChTerno(8)
-click Form_sched_lotto_ambetto.cmdstampa
+click Form_sched_lotto_ambetto.cmdstampa(1)
 end'
 scenario_10elotto='start
 click Form1.Option1(8)
 select Form1.List1 0
 show Form_sched_10elotto
-click Form_sched_10elotto.chk10elottoImporto(0)
-click Form_sched_10elotto.cmdstampa
+click Form_sched_10elotto.chk10elottoImporto(1)
+click Form_sched_10elotto.cmdstampa(1)
 end'
 scenario_superenalotto='start
 click Form1.Option1(4)

@@ -10,8 +10,10 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QTableWidget>
+#include <QVariant>
 
 #include "app/binder/nomi_widget.h"
+#include "app/binder/widget_forma.h"
 #include "forms/controls/controlli.h"
 
 namespace schedine {
@@ -31,11 +33,20 @@ bool nel_layout(const QLayout* layout, const QWidget* widget) {
 }
 
 // A widget that no layout places stands where the model says, once the
-// model gives it a size (shapes and marks moved by the forms' rules).
+// model gives it a size (shapes and marks moved by the forms' rules), in the
+// units of its container (see scala_contenitore). The view may keep a
+// widget's place to itself (posizione_libera).
 void aggiorna_posizione(QWidget& w, const controllo& c) {
   if (c.larghezza <= 0 || c.altezza <= 0) return;
-  if (w.isWindow() || nel_layout(w.parentWidget() ? w.parentWidget()->layout() : nullptr, &w)) return;
-  QRect voluta(pixel_da_twips(c.sinistra), pixel_da_twips(c.alto), pixel_da_twips(c.larghezza), pixel_da_twips(c.altezza));
+  if (w.isWindow() || w.property(posizione_libera).toBool()) return;
+  QWidget* genitore = w.parentWidget();
+  if (nel_layout(genitore ? genitore->layout() : nullptr, &w)) return;
+  float scala = 1;
+  if (genitore != nullptr && genitore->property(scala_contenitore).isValid()) {
+    scala = genitore->property(scala_contenitore).toFloat();
+  }
+  QRect voluta(pixel_da_twips(c.sinistra * scala), pixel_da_twips(c.alto * scala), pixel_da_twips(c.larghezza * scala),
+               pixel_da_twips(c.altezza * scala));
   if (w.geometry() != voluta) w.setGeometry(voluta);
 }
 
@@ -141,6 +152,8 @@ void aggiorna_griglia(QTableWidget& tabella, const griglia& g) {
   }
   for (int c = 0; c < g.colonne() && c < static_cast<int>(g.larghezze_colonne.size()); ++c) {
     float larghezza = g.larghezze_colonne[static_cast<size_t>(c)];
+    // A column of width 0 is there, and out of sight.
+    if (tabella.isColumnHidden(c) != (larghezza == 0)) tabella.setColumnHidden(c, larghezza == 0);
     if (larghezza > 0 && tabella.columnWidth(c) != pixel_da_twips(larghezza)) tabella.setColumnWidth(c, pixel_da_twips(larghezza));
   }
   if (g.righe() > 0 && g.colonne() > 0 && (tabella.currentRow() != g.riga || tabella.currentColumn() != g.colonna)) {
@@ -183,6 +196,8 @@ void aggiorna_widget(QWidget& widget, const controllo& c) {
     if (auto* tabella = qobject_cast<QTableWidget*>(&widget)) aggiorna_griglia(*tabella, *g);
   } else if (auto* barra = dynamic_cast<const barra_avanzamento*>(&c)) {
     aggiorna_barra(widget, *barra);
+  } else if (auto* f = dynamic_cast<const forma*>(&c)) {
+    if (auto* disegno = dynamic_cast<widget_forma*>(&widget)) disegno->imposta_tipo(f->tipo);
   }
 }
 

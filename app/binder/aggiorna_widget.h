@@ -16,6 +16,13 @@ class controllo;
 
 void aggiorna_widget(QWidget& widget, const controllo& c);
 
+// Widget properties a view may set. On a container: how many twips one unit
+// of its children's positions is (a picture box whose marks are placed in
+// pixels of its picture has 15); without it a unit is a twip. On a widget:
+// true when the view places it itself and the model's position is not applied.
+inline constexpr const char* scala_contenitore = "twip_per_unita";
+inline constexpr const char* posizione_libera = "posizione_libera";
+
 // A colour of the models (0x00BBGGRR, as the original platform writes colours).
 QColor colore_da_modello(int32_t colore);
 

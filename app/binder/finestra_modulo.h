@@ -27,6 +27,9 @@ class finestra_modulo : public QWidget {
   // The rule a close by the user runs on the form; none means the form's own
   // chiudi_utente.
   std::function<void(modulo&, insieme_moduli&)> regola_chiusura;
+  // What the view brings in step with the form after the binder has
+  // refreshed the widgets (the window's size, panels the view places itself).
+  std::function<void(modulo&)> dopo_aggiornamento;
   // Whether the skin in use covers this window, and the widgets (by
   // objectName) that keep the plain look inside it.
   bool usa_skin = false;

@@ -93,6 +93,7 @@ void legame::aggiorna_finestra(finestra_legata& legata, modulo& m) {
     QSignalBlocker silenzio(w.widget.data());
     aggiorna_widget(*w.widget, m.trova(w.nome, w.indice));
   }
+  if (legata.finestra->dopo_aggiornamento) legata.finestra->dopo_aggiornamento(m);
 }
 
 // ---------------------------------------------------------------- wiring

@@ -122,7 +122,7 @@ void griglia::dimensiona(int righe, int colonne) {
   colonne_ = std::max(colonne, 0);
   testi_.assign(static_cast<size_t>(righe_ * colonne_), std::string());
   colori_.assign(static_cast<size_t>(righe_ * colonne_), bianco);
-  larghezze_colonne.assign(static_cast<size_t>(colonne_), 0.0f);
+  larghezze_colonne.assign(static_cast<size_t>(colonne_), larghezza_propria);
   riga = colonna = riga_fine = colonna_fine = 0;
 }
 

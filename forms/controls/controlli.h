@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/controls/controllo.h"
@@ -19,9 +20,19 @@ class etichetta : public controllo {
   std::string testo_visibile() const override { return caption; }
 };
 
-using pulsante = etichetta;
-using cornice = etichetta;
-using immagine = etichetta;
+// The four behave alike; their kinds tell a window how to show them.
+class pulsante : public etichetta {
+ public:
+  using etichetta::etichetta;
+};
+class cornice : public etichetta {
+ public:
+  using etichetta::etichetta;
+};
+class immagine : public etichetta {
+ public:
+  using etichetta::etichetta;
+};
 
 class casella_controllo : public controllo {
  public:
@@ -85,7 +96,12 @@ class casella_testo : public controllo {
 // A list box or a combo box: entries, the selected one, its text.
 class casella_elenco : public controllo {
  public:
-  using controllo::controllo;
+  // A combo box drops its entries down under a box of its own text; a list
+  // box shows them. The forms name every combo box "Combo...", so the design
+  // name sets the kind unless the form says otherwise.
+  casella_elenco(std::string nome, int indice)
+      : controllo(std::move(nome), indice), a_tendina(this->nome().rfind("Combo", 0) == 0) {}
+  bool a_tendina;
 
   int conta() const { return static_cast<int>(voci_.size()); }
   // Entry i; an index outside the list reads empty, as the platform's list does.
@@ -173,6 +189,9 @@ class griglia : public controllo {
   void imposta_testo_cella(int r, int c, const std::string& testo);
   int32_t colore_cella(int r, int c) const;
   void imposta_colore_cella(int r, int c, int32_t colore);
+  // Column widths in twips: 0 hides a column; one the form never sized
+  // keeps the grid's own width.
+  inline static constexpr float larghezza_propria = -1;
   std::vector<float> larghezze_colonne;
 
   // The user selects from (r1, c1) to (r2, c2) and lets the mouse button up.
