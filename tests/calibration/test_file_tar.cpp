@@ -15,6 +15,7 @@
 #include "core/errore_runtime.h"
 #include "core/stato.h"
 #include "tests/support/cartella_temporanea.h"
+#include "tests/support/numero_errore.h"
 
 namespace schedine {
 namespace {
@@ -82,14 +83,7 @@ std::vector<std::string> righe_crlf(const std::string& testo) {
   return righe;
 }
 
-int numero_errore(const std::function<void()>& azione) {
-  try {
-    azione();
-  } catch (const errore_runtime& e) {
-    return e.numero();
-  }
-  return 0;
-}
+using test::numero_errore;
 
 class FileTar : public ::testing::Test {
  protected:

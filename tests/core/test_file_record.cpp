@@ -3,6 +3,7 @@
 #include "core/errore_runtime.h"
 #include "core/file_record.h"
 #include "tests/support/cartella_temporanea.h"
+#include "tests/support/numero_errore.h"
 
 namespace schedine {
 namespace {
@@ -13,14 +14,7 @@ class FileRecord : public ::testing::Test {
   lettore_record apri(const std::string& contenuto) { return lettore_record(cartella.scrivi("f", contenuto)); }
 };
 
-int numero_errore(const std::function<void()>& azione) {
-  try {
-    azione();
-  } catch (const errore_runtime& e) {
-    return e.numero();
-  }
-  return 0;
-}
+using test::numero_errore;
 
 TEST_F(FileRecord, FieldsAreTakenRegardlessOfLineEnds) {
   auto f = apri("1,2\r\n3\r\n4,5,\r\n\r\n6");

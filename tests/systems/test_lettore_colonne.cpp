@@ -8,6 +8,7 @@
 #include "core/errore_runtime.h"
 #include "systems/lettore_colonne.h"
 #include "tests/support/cartella_temporanea.h"
+#include "tests/support/numero_errore.h"
 
 namespace schedine {
 namespace {
@@ -27,14 +28,7 @@ colonne leggi_tutte(const std::string& percorso, size_t n, bool con_testata = fa
   return lette;
 }
 
-int numero_errore(const std::function<void()>& istruzione) {
-  try {
-    istruzione();
-  } catch (const errore_runtime& e) {
-    return e.numero();
-  }
-  return 0;
-}
+using test::numero_errore;
 
 TEST(LettoreColonne, ColumnsAreGroupsOfFieldsWhateverTheLines) {
   struct caso {

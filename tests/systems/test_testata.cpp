@@ -6,18 +6,12 @@
 #include "core/stato.h"
 #include "systems/testata.h"
 #include "tests/support/cartella_temporanea.h"
+#include "tests/support/numero_errore.h"
 
 namespace schedine {
 namespace {
 
-int numero_errore(const std::function<void()>& istruzione) {
-  try {
-    istruzione();
-  } catch (const errore_runtime& e) {
-    return e.numero();
-  }
-  return 0;
-}
+using test::numero_errore;
 
 TEST(Testata, CountStandsWhereTheKindKeepsIt) {
   struct caso {
