@@ -19,6 +19,10 @@ inline constexpr int informazione = 64;
 
 inline constexpr int risposta_ok = 1;
 
+// The caption of the program: the main form's, and the title of a message
+// box or a window that names none of its own.
+inline constexpr const char* titolo_programma = "Marendolia - Stampa Schedine";
+
 class servizi_piattaforma {
  public:
   virtual ~servizi_piattaforma() = default;

@@ -85,7 +85,7 @@ void legame::aggiorna() {
 }
 
 void legame::aggiorna_finestra(finestra_legata& legata, modulo& m) {
-  QString titolo = QString::fromStdString(m.caption);
+  QString titolo = QString::fromStdString(m.caption.empty() ? std::string(titolo_programma) : m.caption);
   if (legata.finestra->windowTitle() != titolo) legata.finestra->setWindowTitle(titolo);
   for (const widget_legato& w : legata.widget) {
     if (w.widget.isNull() || !m.esiste(w.nome, w.indice)) continue;

@@ -9,10 +9,9 @@
 #include <string>
 #include <vector>
 
-namespace schedine {
+#include "core/piattaforma.h"
 
-// The caption of the program: the title of a message box that names none.
-inline constexpr const char* titolo_programma = "Marendolia - Stampa Schedine";
+namespace schedine {
 
 struct pulsante_messaggio {
   int risposta;      // the number the system gets back

@@ -81,7 +81,7 @@ const char* const etichetta_ridotto = "   (Ridotto)";
 // ---------------------------------------------------------------- design
 
 void Form1::crea_controlli() {
-  caption = "Marendolia - Stampa Schedine";
+  caption = titolo_programma;
   auto& frame1 = aggiungi<cornice>("Frame1");
   for (int i = 0; i < static_cast<int>(opzioni.size()); ++i) {
     auto& opzione = aggiungi_opzione("Option1", i, &frame1);
