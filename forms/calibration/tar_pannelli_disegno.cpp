@@ -2,6 +2,7 @@
 // place, in twips, but for the marks inside Picture1, which are in Picture1's
 // own units (twips on tar_enalotto, pixels of the slip picture on the others).
 
+#include <algorithm>
 #include <cmath>
 
 #include "forms/calibration/tar_pannelli.h"
@@ -22,6 +23,9 @@ posizione posto_di_progetto(int i) {
           std::round(95.0f + (1501.0f - 95.0f) * static_cast<float>(riga) / 5.0f)};
 }
 
+// The height of Frame1: its heading and one row for each panel box.
+float altezza_riquadro_pannelli(int caselle) { return 720 + 330 * static_cast<float>(caselle); }
+
 constexpr std::array<verso, 4> versi_direzione{verso::giu, verso::destra, verso::su, verso::sinistra};
 constexpr std::array<verso, 4> versi_interlinea{verso::sinistra, verso::destra, verso::su, verso::giu};
 
@@ -35,8 +39,11 @@ void tar_pannelli::crea_controlli() {
   const float sotto_la_figura = 420 + static_cast<float>(v.altezza_figura) * twip_per_pixel + 120;
   crea_frecce(sotto_la_figura);
   crea_pannelli(sotto_la_figura);
-  metti_impostazioni(120, sotto_la_figura + 2370, v.consiglio);
-  crea_comandi(sotto_la_figura + 2370);
+  // The settings and the buttons stand below the arrows and below the panel
+  // boxes, whichever reaches lower, so no button covers a box.
+  const float sotto = sotto_la_figura + std::max(2370.0f, altezza_riquadro_pannelli(v.caselle) + 90);
+  metti_impostazioni(120, sotto, v.consiglio);
+  crea_comandi(sotto);
 }
 
 void tar_pannelli::crea_anteprima() {
@@ -70,7 +77,7 @@ void tar_pannelli::crea_frecce(float alto) {
 }
 
 void tar_pannelli::crea_pannelli(float alto) {
-  const float altezza = 720 + 330 * static_cast<float>(v.caselle);
+  const float altezza = altezza_riquadro_pannelli(v.caselle);
   auto& frame1 = metti<cornice>("Frame1", -1, nullptr, 4695, alto, 3735, altezza);
   frame1.caption = "Taratura";
   metti<forma>("Shape1", -1, &frame1, 15, 15, 3720, altezza - 15);
