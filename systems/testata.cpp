@@ -2,7 +2,6 @@
 
 #include "core/errore_runtime.h"
 #include "core/file_record.h"
-#include "core/stato.h"
 
 namespace schedine {
 
@@ -31,15 +30,6 @@ const lettura_testata& lettura_di(genere g) {
   throw errore_runtime(codice::chiamata_non_valida);
 }
 
-// The crossword branch of the panel forms: the head's Long is read and
-// dropped (a failure there is passed over), and the column file's lines are
-// the count.
-int32_t conta_cruciverba(const stato& s, const std::string& cartella) {
-  std::string_view estensione = s.tipo_gioco == "wforlife" ? "s10" : "sen";
-  passa_oltre([&] { primo_long(cartella + std::string(togli_blank(cambia_estensione(s.sistema_scelto, estensione)))); });
-  return conta_righe(cartella + std::string(togli_blank(cambia_estensione(s.sistema_scelto, "col"))));
-}
-
 }  // namespace
 
 int32_t colonne_da_testata(const std::string& percorso, genere g) {
@@ -63,17 +53,6 @@ int32_t conta_righe(const std::string& percorso) {
     ++righe;
   }
   return righe;
-}
-
-std::optional<int32_t> conta_colonne_sistema(const stato& s, modulo_scheda modulo) {
-  if (modulo == modulo_scheda::pannelli && s.tipo_sistema == "cruciverba") {
-    return conta_cruciverba(s, cartella_sistema_di(s.cartella_programma, "cruciverba"));
-  }
-  std::optional<std::string> cartella = cartella_sorte(s.cartella_programma, s.tipo_gioco);
-  std::optional<genere> tipo = genere_scelto(s.tipo_sistema, s.tipo_gioco, s.sistema_scelto);
-  if (!cartella || !tipo) return std::nullopt;
-  if (modulo == modulo_scheda::lotto && *tipo == genere::ridotto_due_file) tipo = genere::ridotto_un_file;
-  return colonne_da_testata(*cartella + std::string(togli_blank(s.sistema_scelto)), *tipo);
 }
 
 }  // namespace schedine
