@@ -44,10 +44,10 @@
 
 #include "bench/pavimento_pdf.h"
 #include "calibration/assicura_tar.h"
+#include "controls/insieme_moduli.h"
+#include "controls/modulo.h"
 #include "core/piattaforma.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
-#include "forms/controls/modulo.h"
 #include "printing/dispositivo_giornale.h"
 #include "printing/giornale.h"
 #include "printing/qt/dispositivo_qt.h"

@@ -1,7 +1,7 @@
 #include "printing/prove_taratura.h"
 
+#include "controls/modulo.h"
 #include "core/errore_runtime.h"
-#include "forms/controls/modulo.h"
 #include "printing/dispositivo_stampa.h"
 #include "printing/lavoro_stampa.h"
 #include "printing/riga_scheda.h"

@@ -1,7 +1,7 @@
 #include "printing/scheda_controlli.h"
 
+#include "controls/insieme_moduli.h"
 #include "core/errore_runtime.h"
-#include "forms/controls/insieme_moduli.h"
 
 namespace schedine {
 

@@ -1,7 +1,7 @@
 #include "printing/scheda_enalotto.h"
 
+#include "controls/modulo.h"
 #include "core/numeri.h"
-#include "forms/controls/modulo.h"
 #include "printing/dispositivo_stampa.h"
 #include "printing/lavoro_stampa.h"
 #include "printing/riga_scheda.h"

@@ -1,8 +1,8 @@
 #include "printing/scheda_lotto.h"
 
+#include "controls/modulo.h"
 #include "core/errore_runtime.h"
 #include "core/numeri.h"
-#include "forms/controls/modulo.h"
 #include "printing/dispositivo_stampa.h"
 #include "printing/lavoro_stampa.h"
 #include "printing/riga_scheda.h"

@@ -1,9 +1,9 @@
 #include "systems/lettura_comune.h"
 
+#include "controls/controlli.h"
+#include "controls/modulo.h"
 #include "core/piattaforma.h"
 #include "core/stato.h"
-#include "forms/controls/controlli.h"
-#include "forms/controls/modulo.h"
 #include "printing/dispositivo_stampa.h"
 #include "printing/lavoro_stampa.h"
 #include "printing/scheda_controlli.h"

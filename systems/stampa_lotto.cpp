@@ -2,10 +2,10 @@
 
 #include <string_view>
 
-#include "forms/controls/modulo.h"
-#include "printing/scheda_controlli.h"
+#include "controls/modulo.h"
 #include "printing/dispositivo_stampa.h"
 #include "printing/lavoro_stampa.h"
+#include "printing/scheda_controlli.h"
 #include "systems/lettura_lotto.h"
 #include "systems/nomi_sistema.h"
 

@@ -2,10 +2,10 @@
 
 #include <string_view>
 
+#include "controls/modulo.h"
 #include "core/errore_runtime.h"
-#include "forms/controls/modulo.h"
-#include "printing/scheda_controlli.h"
 #include "printing/scheda_10elotto.h"
+#include "printing/scheda_controlli.h"
 #include "printing/scheda_enalotto.h"
 #include "printing/scheda_wforlife.h"
 #include "systems/lettura_comune.h"

@@ -14,7 +14,7 @@
 
 #include "app/binder/nomi_widget.h"
 #include "app/binder/widget_forma.h"
-#include "forms/controls/controlli.h"
+#include "controls/controlli.h"
 
 namespace schedine {
 

@@ -12,7 +12,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
-#include "forms/controls/controlli.h"
+#include "controls/controlli.h"
 
 namespace schedine {
 

@@ -5,9 +5,9 @@
 #include "app/binder/aggiorna_widget.h"
 #include "app/binder/collega_widget.h"
 #include "app/binder/nomi_widget.h"
+#include "controls/insieme_moduli.h"
 #include "core/errore_runtime.h"
 #include "core/piattaforma.h"
-#include "forms/controls/insieme_moduli.h"
 
 namespace schedine {
 

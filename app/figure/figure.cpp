@@ -2,10 +2,10 @@
 
 #include "app/figure/figura_schedina.h"
 #include "app/figure/simboli.h"
+#include "controls/modulo.h"
 #include "forms/calibration/modulo_taratura.h"
 #include "forms/calibration/tar_lotto.h"
 #include "forms/calibration/tar_pannelli.h"
-#include "forms/controls/modulo.h"
 #include "forms/lotto/modulo_lotto.h"
 
 namespace schedine {

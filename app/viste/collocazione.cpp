@@ -10,7 +10,7 @@
 #include "app/binder/aggiorna_widget.h"
 #include "app/binder/nomi_widget.h"
 #include "app/binder/widget_forma.h"
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 #include "forms/enalotto_wforlife/modulo_pannelli.h"
 #include "forms/lotto/modulo_lotto.h"
 

@@ -3,7 +3,7 @@
 #include <map>
 
 #include "app/binder/finestra_modulo.h"
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 
 namespace schedine {
 

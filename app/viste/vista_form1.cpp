@@ -14,7 +14,7 @@
 #include "app/binder/finestra_modulo.h"
 #include "app/viste/registro_viste.h"
 #include "app/viste/strumenti_vista.h"
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 
 namespace schedine {
 

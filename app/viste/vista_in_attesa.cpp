@@ -10,8 +10,8 @@
 #include "app/binder/finestra_modulo.h"
 #include "app/viste/registro_viste.h"
 #include "app/viste/strumenti_vista.h"
-#include "forms/controls/insieme_moduli.h"
-#include "forms/controls/modulo.h"
+#include "controls/insieme_moduli.h"
+#include "controls/modulo.h"
 
 namespace schedine {
 

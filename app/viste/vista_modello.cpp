@@ -25,9 +25,9 @@
 #include "app/viste/collocazione.h"
 #include "app/viste/registro_viste.h"
 #include "app/viste/strumenti_vista.h"
+#include "controls/insieme_moduli.h"
+#include "controls/modulo.h"
 #include "forms/calibration/modulo_taratura.h"
-#include "forms/controls/insieme_moduli.h"
-#include "forms/controls/modulo.h"
 
 namespace schedine {
 

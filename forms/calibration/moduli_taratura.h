@@ -1,7 +1,7 @@
 #pragma once
 // The five calibration forms, by their design names.
 
-#include "forms/controls/insieme_moduli.h"
+#include "controls/insieme_moduli.h"
 
 namespace schedine {
 

@@ -1,8 +1,8 @@
 #include "forms/calibration/modulo_taratura.h"
 
+#include "controls/insieme_moduli.h"
 #include "core/stato.h"
 #include "forms/calibration/passi_taratura.h"
-#include "forms/controls/insieme_moduli.h"
 
 namespace schedine {
 

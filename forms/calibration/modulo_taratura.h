@@ -9,8 +9,8 @@
 #include <map>
 #include <string>
 
+#include "controls/modulo.h"
 #include "forms/calibration/anteprima_interlinea.h"
-#include "forms/controls/modulo.h"
 
 namespace schedine {
 

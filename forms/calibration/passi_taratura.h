@@ -2,7 +2,7 @@
 // The two small steps every calibration form is made of: a coordinate moved
 // by a step in Single, and a click counter whose only store is its caption.
 
-#include "forms/controls/controlli.h"
+#include "controls/controlli.h"
 
 namespace schedine {
 

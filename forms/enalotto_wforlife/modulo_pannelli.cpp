@@ -1,9 +1,9 @@
 #include "forms/enalotto_wforlife/modulo_pannelli.h"
 
+#include "controls/insieme_moduli.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 #include "forms/enalotto_wforlife/conteggio_pannelli.h"
 #include "forms/enalotto_wforlife/testi_prezzo.h"
 

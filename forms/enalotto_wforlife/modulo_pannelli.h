@@ -13,7 +13,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 
 namespace schedine {
 

@@ -1,8 +1,8 @@
 #include "forms/enalotto_wforlife/modulo_wforlife.h"
 
+#include "controls/insieme_moduli.h"
 #include "core/numeri.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 
 namespace schedine {
 

@@ -4,9 +4,9 @@
 #include <chrono>
 
 #include "calibration/file_tar.h"
+#include "controls/insieme_moduli.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
-#include "forms/controls/insieme_moduli.h"
 #include "systems/stampa_lotto.h"
 #include "systems/stampa_pannelli.h"
 

@@ -1,9 +1,9 @@
 #include "forms/lotto/Form_sched_lotto_ambetto.h"
 
 #include "calibration/file_tar.h"
+#include "controls/insieme_moduli.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
-#include "forms/controls/insieme_moduli.h"
 #include "systems/stampa_lotto.h"
 
 namespace schedine {

@@ -14,9 +14,9 @@
 #include <initializer_list>
 #include <string>
 
+#include "controls/modulo.h"
 #include "core/stato.h"
 #include "core/valuta.h"
-#include "forms/controls/modulo.h"
 #include "forms/lotto/importi_lotto.h"
 
 namespace schedine {

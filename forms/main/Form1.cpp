@@ -3,12 +3,12 @@
 #include <array>
 
 #include "calibration/assicura_tar.h"
+#include "controls/insieme_moduli.h"
 #include "core/file_record.h"
 #include "core/file_sistema.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 #include "systems/nomi_sistema.h"
 
 namespace schedine {

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 
 namespace schedine {
 

@@ -5,8 +5,8 @@
 
 #include <string>
 
+#include "controls/insieme_moduli.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 
 namespace schedine {
 

@@ -21,8 +21,8 @@
 #include "app/binder/aggiorna_widget.h"
 #include "app/binder/legame.h"
 #include "app/viste/strumenti_vista.h"
+#include "controls/insieme_moduli.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 #include "tests/support/piattaforma_prova.h"
 
 namespace schedine::test {

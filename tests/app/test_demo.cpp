@@ -8,9 +8,9 @@
 #include <filesystem>
 #include <map>
 
+#include "controls/modulo.h"
 #include "core/errore_runtime.h"
 #include "core/file_sistema.h"
-#include "forms/controls/modulo.h"
 #include "forms/programma/programma.h"
 #include "systems/lettore_colonne.h"
 #include "systems/testata.h"

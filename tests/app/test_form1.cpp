@@ -8,7 +8,7 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 #include "tests/app/banco_app.h"
 
 namespace schedine::test {

@@ -20,8 +20,8 @@
 #include <algorithm>
 
 #include "app/binder/widget_forma.h"
+#include "controls/modulo.h"
 #include "forms/calibration/tar_lotto.h"
-#include "forms/controls/modulo.h"
 #include "printing/giornale.h"
 #include "tests/app/banco_app.h"
 

@@ -6,8 +6,8 @@
 #include <memory>
 #include <string>
 
-#include "forms/controls/insieme_moduli.h"
-#include "forms/controls/modulo.h"
+#include "controls/insieme_moduli.h"
+#include "controls/modulo.h"
 
 namespace schedine::test {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "controls/insieme_moduli.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 #include "printing/dispositivo_giornale.h"
 #include "printing/giornale.h"
 #include "tests/printing/moduli_prova.h"

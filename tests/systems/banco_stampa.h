@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "controls/insieme_moduli.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 #include "tests/printing/moduli_prova.h"
 #include "tests/support/cartella_temporanea.h"
 #include "tests/support/piattaforma_prova.h"

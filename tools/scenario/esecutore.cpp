@@ -1,8 +1,8 @@
 #include "tools/scenario/esecutore.h"
 
+#include "controls/modulo.h"
 #include "core/errore_runtime.h"
 #include "core/file_sistema.h"
-#include "forms/controls/modulo.h"
 #include "forms/programma/programma.h"
 #include "printing/giornale.h"
 #include "tools/scenario/esito.h"

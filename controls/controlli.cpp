@@ -1,4 +1,4 @@
-#include "forms/controls/controlli.h"
+#include "controls/controlli.h"
 
 #include <algorithm>
 #include <cctype>

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "controls/controlli.h"
 #include "core/errore_runtime.h"
-#include "forms/controls/controlli.h"
 
 namespace schedine {
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 
 namespace schedine {
 

@@ -1,4 +1,4 @@
-#include "forms/controls/insieme_moduli.h"
+#include "controls/insieme_moduli.h"
 
 namespace schedine {
 

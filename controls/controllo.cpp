@@ -1,4 +1,4 @@
-#include "forms/controls/controllo.h"
+#include "controls/controllo.h"
 
 namespace schedine {
 

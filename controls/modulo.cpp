@@ -1,4 +1,4 @@
-#include "forms/controls/modulo.h"
+#include "controls/modulo.h"
 
 namespace schedine {
 

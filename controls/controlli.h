@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "forms/controls/controllo.h"
+#include "controls/controllo.h"
 
 namespace schedine {
 

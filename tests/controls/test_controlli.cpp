@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "controls/insieme_moduli.h"
 #include "core/errore_runtime.h"
 #include "core/stato.h"
-#include "forms/controls/insieme_moduli.h"
 
 namespace schedine {
 namespace {
