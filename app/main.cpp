@@ -3,14 +3,15 @@
 // the forms' rules on the user's events, and ends when the main form goes.
 
 #include <QApplication>
-#include <QLocale>
 #include <cstdio>
 #include <cstdlib>
 
+#include "app/binder/accessibilita.h"
 #include "app/binder/legame.h"
 #include "app/piattaforma_qt/piattaforma_qt.h"
 #include "app/viste/registro_viste.h"
 #include "app/viste/skin.h"
+#include "core/formato_locale.h"
 #include "forms/programma/programma.h"
 
 using namespace schedine;
@@ -19,10 +20,13 @@ int main(int argc, char** argv) {
   QApplication applicazione(argc, argv);
   // Windows come and go with their forms; the program ends with the main form.
   applicazione.setQuitOnLastWindowClosed(false);
+  installa_accessibilita();
 
   const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
   piattaforma_qt piattaforma(cartella);
-  programma p(cartella, piattaforma, formato_da_locale(QLocale::system()));
+  // The program and its files are Italian: numbers are shown and read the
+  // Italian way whatever the system's locale.
+  programma p(cartella, piattaforma, formato_locale::italiano());
   legame binder(p.moduli, piattaforma, &crea_finestra);
 
   // A rule that lets pending events run shows its progress first.

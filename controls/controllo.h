@@ -28,6 +28,8 @@ class controllo {
   // Position and size in twips inside the container.
   float sinistra = 0, alto = 0, larghezza = 0, altezza = 0;
   std::string tag;
+  // The text shown while the mouse rests on the control; none when empty.
+  std::string suggerimento;
   // The frame or picture box that holds the control; a disabled or hidden
   // container makes the control unreachable for the user.
   controllo* contenitore = nullptr;

@@ -11,6 +11,7 @@ pacchetti=(
   xvfb xauth
   cups printer-driver-cups-pdf
   clang libclang-rt-14-dev locales
+  at-spi2-core python3-pyatspi dbus
 )
 
 mancanti=()
@@ -28,3 +29,12 @@ if [ ${#mancanti[@]} -gt 0 ]; then
   $sudo_cmd apt-get update -qq
   $sudo_cmd apt-get install -y -qq --no-install-recommends "${mancanti[@]}"
 fi
+
+# The system locales the tests start the desktop program under.
+for nome in it_IT en_US; do
+  if ! locale -a 2>/dev/null | grep -qix "$nome.utf-\?8"; then
+    sudo_cmd=""
+    [ "$(id -u)" -ne 0 ] && sudo_cmd="sudo"
+    $sudo_cmd localedef -i "$nome" -f UTF-8 "$nome.UTF-8"
+  fi
+done

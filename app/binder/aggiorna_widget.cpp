@@ -55,6 +55,7 @@ void aggiorna_comune(QWidget& w, const controllo& c) {
   // The widget's own flags: a disabled or hidden container does the rest, as on the form.
   if (w.testAttribute(Qt::WA_Disabled) == c.abilitato) w.setEnabled(c.abilitato);
   if (w.isHidden() == c.visibile) w.setHidden(!c.visibile);
+  if (w.toolTip() != testo(c.suggerimento)) w.setToolTip(testo(c.suggerimento));
   aggiorna_posizione(w, c);
 }
 

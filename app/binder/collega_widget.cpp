@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
+#include "app/binder/ricerca_digitata.h"
 #include "controls/controlli.h"
 
 namespace schedine {
@@ -47,6 +48,8 @@ class filtro_casella_testo : public QObject {
  private:
   // True when the key is used up here.
   bool tasto(const QKeyEvent& evento) {
+    // Tab moves the focus on: it never reaches the box's key filter.
+    if (evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab) return false;
     QString scritto = evento.text();
     // The filter sees characters of one byte, as the platform's KeyPress does.
     if (scritto.size() != 1 || scritto[0].unicode() > 255) return false;
@@ -142,6 +145,7 @@ void collega_elenco(QWidget& widget, azione_controllo esegui) {
     QObject::connect(lista, &QListWidget::currentRowChanged, lista, scegli);
   } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
     QObject::connect(combo, &QComboBox::activated, combo, scegli);
+    attiva_ricerca_digitata(*combo, scegli);
   }
 }
 

@@ -1,6 +1,7 @@
 #include "app/binder/finestra_modulo.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 
 namespace schedine {
 
@@ -13,6 +14,30 @@ void finestra_modulo::closeEvent(QCloseEvent* evento) {
   // the form's rule has hidden or unloaded the form.
   evento->ignore();
   if (alla_chiusura) alla_chiusura();
+}
+
+void finestra_modulo::imposta_pulsante_predefinito(QPushButton* pulsante) {
+  if (predefinito_ != nullptr) predefinito_->setDefault(false);
+  predefinito_ = pulsante;
+  if (pulsante != nullptr) pulsante->setDefault(true);
+}
+
+// Outside a dialog Qt gives Enter to no button: a focused button takes it
+// as a click, any other Enter the window's default button takes, as in a
+// dialog. A disabled or hidden default is not pressed.
+void finestra_modulo::keyPressEvent(QKeyEvent* evento) {
+  const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+  if (!invio || evento->modifiers() & ~Qt::KeypadModifier) {
+    QWidget::keyPressEvent(evento);
+    return;
+  }
+  QPushButton* pulsante = qobject_cast<QPushButton*>(focusWidget());
+  if (pulsante == nullptr) pulsante = predefinito_;
+  if (pulsante != nullptr && pulsante->isVisibleTo(this) && pulsante->isEnabled()) {
+    pulsante->click();
+  } else {
+    evento->ignore();
+  }
 }
 
 }  // namespace schedine

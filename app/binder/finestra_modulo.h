@@ -4,6 +4,8 @@
 // by the user is handed to the binder, which runs the form's rule for it: the
 // window itself never closes on its own.
 
+#include <QPointer>
+#include <QPushButton>
 #include <QStringList>
 #include <QWidget>
 #include <functional>
@@ -34,12 +36,17 @@ class finestra_modulo : public QWidget {
   // objectName) that keep the plain look inside it.
   bool usa_skin = false;
   QStringList esenti_skin;
+  // The button Enter presses when the key reaches the window: the focus is
+  // on no button of its own. None: Enter does nothing.
+  void imposta_pulsante_predefinito(QPushButton* pulsante);
 
  protected:
   void closeEvent(QCloseEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
   std::string nome_modulo_;
+  QPointer<QPushButton> predefinito_;
 };
 
 }  // namespace schedine

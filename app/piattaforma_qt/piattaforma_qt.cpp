@@ -18,13 +18,6 @@ void avvisa_file_pdf(const std::string& percorso) {
                    stile_messaggio::informazione, "");
 }
 
-char separatore(const QString& testo, char altrimenti) {
-  if (testo.size() != 1) return altrimenti;
-  QChar c = testo[0];
-  if (c.isSpace()) return ' ';
-  return c.unicode() < 128 ? static_cast<char>(c.unicode()) : altrimenti;
-}
-
 }  // namespace
 
 piattaforma_qt::piattaforma_qt(std::string cartella_programma)
@@ -52,13 +45,6 @@ void piattaforma_qt::carica_skin(const std::string& percorso) {
   if (!file.open(QIODevice::ReadOnly)) throw errore_runtime(codice::file_non_trovato, percorso);
   foglio_skin_ = QString::fromUtf8(file.readAll());
   if (al_cambio_skin) al_cambio_skin(foglio_skin_);
-}
-
-formato_locale formato_da_locale(const QLocale& locale) {
-  formato_locale formato;
-  formato.decimale = separatore(locale.decimalPoint(), ',');
-  formato.migliaia = separatore(locale.groupSeparator(), formato.decimale == ',' ? '.' : ',');
-  return formato;
 }
 
 }  // namespace schedine

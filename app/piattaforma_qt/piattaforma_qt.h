@@ -2,13 +2,11 @@
 // The platform services of the desktop program, with Qt: pending events,
 // message boxes, starting another program, the skin, and the printer.
 
-#include <QLocale>
 #include <QString>
 #include <functional>
 #include <string>
 
 #include "app/piattaforma_qt/stampante_app.h"
-#include "core/formato_locale.h"
 #include "core/piattaforma.h"
 
 namespace schedine {
@@ -40,9 +38,5 @@ class piattaforma_qt : public servizi_piattaforma {
   QString foglio_skin_;
   stampante_app stampante_;
 };
-
-// The user's number separators from a Qt locale. A separator that is no
-// single plain character (a narrow no-break space) is written as a blank.
-formato_locale formato_da_locale(const QLocale& locale);
 
 }  // namespace schedine

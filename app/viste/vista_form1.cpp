@@ -98,6 +98,8 @@ void costruisci(finestra_modulo& f, modulo& m) {
   pagina->addWidget(crea_taratura(&f));
 
   // The skin covers the window but for the games, the list and the Ok frame.
+  // Enter opens the system chosen in the list, as Ok does.
+  f.imposta_pulsante_predefinito(f.findChild<QPushButton*>(QStringLiteral("cmdok")));
   f.usa_skin = true;
   f.esenti_skin = {QStringLiteral("Frame1"), QStringLiteral("Frame2"), QStringLiteral("List1")};
   for (int i = 0; i < opzioni_gioco; ++i) f.esenti_skin << nome_widget("Option1", i);

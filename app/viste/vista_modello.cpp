@@ -23,6 +23,7 @@
 #include "app/binder/widget_forma.h"
 #include "app/figure/figure.h"
 #include "app/viste/collocazione.h"
+#include "app/viste/ordine_tab.h"
 #include "app/viste/registro_viste.h"
 #include "app/viste/strumenti_vista.h"
 #include "controls/insieme_moduli.h"
@@ -35,6 +36,8 @@ namespace {
 
 // A label box taller than this holds more than one line of text.
 constexpr float riga_e_mezza = 400;
+// The rows an open drop-down list shows at a time.
+constexpr int righe_tendina = 16;
 
 QSize misura_di_progetto(const controllo& c) { return {pixel_da_twips(c.larghezza), pixel_da_twips(c.altezza)}; }
 
@@ -112,7 +115,14 @@ QWidget* crea_widget(QWidget* genitore, modulo& m, const controllo& c, const std
   if (dynamic_cast<const pulsante_opzione*>(&c) != nullptr) return crea<QRadioButton>(genitore, n, i);
   if (dynamic_cast<const casella_testo*>(&c) != nullptr) return crea<QLineEdit>(genitore, n, i);
   if (auto* e = dynamic_cast<const casella_elenco*>(&c)) {
-    if (e->a_tendina) return crea<QComboBox>(genitore, n, i);
+    if (e->a_tendina) {
+      auto* combo = crea<QComboBox>(genitore, n, i);
+      // A list of thousands of prices opens as a list of a few rows, not a column the height of the screen.
+      combo->setMaxVisibleItems(righe_tendina);
+      // Styles that open the list over the combo take no row count; this one does.
+      combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+      return combo;
+    }
     return crea<QListWidget>(genitore, n, i);
   }
   if (auto* g = dynamic_cast<const griglia*>(&c)) return crea_griglia(genitore, *g);
@@ -259,6 +269,7 @@ void costruisci(finestra_modulo& f, modulo& m) {
   costruzione k;
   crea_widget_del_modulo(f, m, k);
   colloca_widget_del_modulo(m, k);
+  ordina_tabulazione(f);
   parti_finestra parti{k.widget_di(nullptr), k.cornici, k.pannelli};
   const QSize progetto = dimensione_finestra(m, parti.primo_livello);
   prepara_pannelli(parti.pannelli, progetto);

@@ -82,8 +82,10 @@ void Form_sched_enalotto::crea_superstar() {
   auto& grid = aggiungi<griglia>("MSHFlexGrid1", -1, &frame4);
   colloca(grid, 120, 240, 3975, 2235);
   grid.al_rilascio_mouse = [this] { rilascio_griglia(); };
+  grid.suggerimento = suggerimento_griglia;
   auto& check2 = crea<casella_controllo>("Check2", -1, "", 120, 2610, 255, 255, &frame4);
   check2.al_click = [this] { check2_click(); };
+  check2.suggerimento = suggerimento_check2;
   crea("Label5", -1, "N.Casuale", 420, 2610, 1095, 255, &frame4);
 }
 

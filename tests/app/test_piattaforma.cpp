@@ -65,19 +65,6 @@ TEST(Messaggio, AnswersTheButtonPressedUnderTheProgramsCaption) {
   EXPECT_EQ(titolo, "Marendolia - Stampa Schedine");
 }
 
-TEST(Locale, SeparatorsOfTheUsersLocale) {
-  auto it = formato_da_locale(QLocale(QLocale::Italian, QLocale::Italy));
-  EXPECT_EQ(it.decimale, ',');
-  EXPECT_EQ(it.migliaia, '.');
-  auto en = formato_da_locale(QLocale(QLocale::English, QLocale::UnitedStates));
-  EXPECT_EQ(en.decimale, '.');
-  EXPECT_EQ(en.migliaia, ',');
-  // French groups with a narrow no-break space: a blank here.
-  auto fr = formato_da_locale(QLocale(QLocale::French, QLocale::France));
-  EXPECT_EQ(fr.decimale, ',');
-  EXPECT_EQ(fr.migliaia, ' ');
-}
-
 class Piattaforma : public ::testing::Test {
  protected:
   cartella_temporanea cartella;
