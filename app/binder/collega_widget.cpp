@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
+#include "app/binder/gruppi_opzioni.h"
 #include "app/binder/ricerca_digitata.h"
 #include "controls/controlli.h"
 
@@ -120,7 +121,10 @@ class filtro_clic : public QObject {
 
 void collega_bottone(QAbstractButton& bottone, azione_controllo esegui) {
   // Option buttons are kept apart by the model, not by Qt.
-  if (auto* opzione = qobject_cast<QRadioButton*>(&bottone)) opzione->setAutoExclusive(false);
+  if (auto* opzione = qobject_cast<QRadioButton*>(&bottone)) {
+    opzione->setAutoExclusive(false);
+    collega_frecce_opzione(*opzione);
+  }
   QObject::connect(&bottone, &QAbstractButton::clicked, &bottone,
                    [esegui] { esegui([](controllo& c) { c.clic_utente(); }); });
 }

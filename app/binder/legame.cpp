@@ -4,6 +4,7 @@
 
 #include "app/binder/aggiorna_widget.h"
 #include "app/binder/collega_widget.h"
+#include "app/binder/gruppi_opzioni.h"
 #include "app/binder/nomi_widget.h"
 #include "controls/insieme_moduli.h"
 #include "core/errore_runtime.h"
@@ -94,6 +95,7 @@ void legame::aggiorna_finestra(finestra_legata& legata, modulo& m) {
     aggiorna_widget(*w.widget, m.trova(w.nome, w.indice));
   }
   if (legata.finestra->dopo_aggiornamento) legata.finestra->dopo_aggiornamento(m);
+  aggiorna_fermate_opzioni(*legata.finestra);
 }
 
 // ---------------------------------------------------------------- wiring

@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QToolTip>
 #include <functional>
+#include <map>
 
 #include "controls/controlli.h"
 #include "controls/modulo.h"
@@ -82,6 +83,23 @@ TEST_F(Tastiera, EnterOpensTheSystemChosenWithTheArrowKeys) {
   EXPECT_TRUE(b.piattaforma.righe().empty());
 }
 
+TEST_F(Tastiera, ArrowKeysChooseTheNextOptionOfTheGroupAndRunItsRule) {
+  attiva("Form1");
+  auto* ambo = w<QRadioButton>("Form1", "Option1", 0);
+  ambo->setFocus();
+  auto& form1 = b.p.moduli("Form1");
+  QTest::keyClick(ambo, Qt::Key_Down);
+  EXPECT_TRUE(form1.c<pulsante_opzione>("Option1", 1).valore());
+  EXPECT_FALSE(form1.c<pulsante_opzione>("Option1", 0).valore());
+  EXPECT_EQ(QApplication::focusWidget(), w("Form1", "Option1", 1));
+  EXPECT_EQ(b.p.s.tipo_gioco, "terno");
+  // Up from the first option comes round to the last.
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+  EXPECT_TRUE(form1.c<pulsante_opzione>("Option1", 9).valore());
+  EXPECT_EQ(b.p.s.tipo_gioco, "wforlife");
+}
+
 TEST_F(Tastiera, EnterOnAFocusedButtonPressesThatButton) {
   attiva("Form1");
   auto* esci = w<QPushButton>("Form1", "cmdcancel");
@@ -125,6 +143,19 @@ void controlla_tab(QWidget& finestra, const std::string& modulo) {
     if (a->parentWidget() != b->parentWidget()) continue;
     EXPECT_TRUE(in_ordine_di_lettura(a, b)) << modulo << ": Tab goes back from " << nome_di(a) << " to " << nome_di(b);
   }
+  // A group of options is one stop, at the chosen option.
+  std::map<const QWidget*, int> opzioni_per_gruppo;
+  for (const QWidget* fermata : fermate) {
+    if (auto* opzione = qobject_cast<const QRadioButton*>(fermata)) {
+      ++opzioni_per_gruppo[fermata->parentWidget()];
+      const bool altra_scelta = !opzione->isChecked() && std::any_of(fermate.begin(), fermate.end(), [&](const QWidget* w) {
+        auto* altra = qobject_cast<const QRadioButton*>(w);
+        return altra != nullptr && altra->parentWidget() == fermata->parentWidget() && altra->isChecked();
+      });
+      EXPECT_FALSE(altra_scelta) << modulo << ": Tab stops at " << nome_di(fermata) << ", not the chosen option";
+    }
+  }
+  for (const auto& [gruppo, quante] : opzioni_per_gruppo) EXPECT_EQ(quante, 1) << modulo << ": " << nome_di(gruppo);
   // The controls of one frame are visited together: Tab may go into a frame
   // inside it and come back, but once it has gone elsewhere it stays away.
   std::vector<const QWidget*> lasciati;
