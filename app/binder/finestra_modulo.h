@@ -13,6 +13,7 @@ namespace schedine {
 
 class insieme_moduli;
 class modulo;
+class regia_stampa;
 
 class finestra_modulo : public QWidget {
  public:
@@ -34,6 +35,9 @@ class finestra_modulo : public QWidget {
   // objectName) that keep the plain look inside it.
   bool usa_skin = false;
   QStringList esenti_skin;
+  // The print commands of the program ("Anteprima", "Interrompi"), set by
+  // whoever makes the window; without them those buttons do nothing.
+  regia_stampa* regia = nullptr;
 
  protected:
   void closeEvent(QCloseEvent* evento) override;

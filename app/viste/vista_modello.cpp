@@ -23,6 +23,7 @@
 #include "app/binder/widget_forma.h"
 #include "app/figure/figure.h"
 #include "app/viste/collocazione.h"
+#include "app/viste/comandi_stampa.h"
 #include "app/viste/registro_viste.h"
 #include "app/viste/strumenti_vista.h"
 #include "controls/insieme_moduli.h"
@@ -264,6 +265,7 @@ void costruisci(finestra_modulo& f, modulo& m) {
   prepara_pannelli(parti.pannelli, progetto);
   f.setFixedSize(progetto);
   porta_sopra_le_cornici_mostrate(parti.cornici);
+  aggiungi_comandi_stampa(f, parti.pannelli);
   f.dopo_aggiornamento = [&f, parti](modulo& form) { aggiorna_finestra(f, form, parti); };
   f.regola_chiusura = &chiusura;
   f.usa_skin = true;
