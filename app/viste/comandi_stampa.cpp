@@ -16,31 +16,46 @@ namespace {
 
 constexpr int distacco = 6;  // pixels between a button and the one it joins
 
+// Free of the other widgets of the container; one that lies under the
+// button's whole place (a frame's border shape) is background.
 bool libero(const QRect& r, const QWidget& genitore, const QWidget& escluso) {
   if (!genitore.rect().contains(r)) return false;
   for (QObject* o : genitore.children()) {
     auto* w = qobject_cast<QWidget*>(o);
     if (w == nullptr || w == &escluso || w->isWindow() || w->isHidden()) continue;
+    if (w->geometry().contains(escluso.geometry())) continue;
     if (w->geometry().intersects(r)) return false;
   }
   return true;
 }
 
-// Beside the print button where nothing stands: right, left, below, above;
-// over its right half as a last resort.
-QRect posto_accanto(const QWidget& stampa, QSize misura) {
-  const QRect s = stampa.geometry();
-  const QWidget& genitore = *stampa.parentWidget();
-  const QRect candidati[] = {
-      {QPoint(s.right() + 1 + distacco, s.top()), misura},
-      {QPoint(s.left() - distacco - misura.width(), s.top()), misura},
-      {QPoint(s.left(), s.bottom() + 1 + distacco), misura},
-      {QPoint(s.left(), s.top() - distacco - misura.height()), misura},
-  };
-  for (const QRect& r : candidati) {
-    if (libero(r, genitore, stampa)) return r;
+struct posto {
+  QWidget* genitore = nullptr;
+  QRect rettangolo;
+};
+
+// Beside the print button where nothing stands: right, left, below, above
+// it, at its size or else at the least a button needs; else the same
+// around the frame that holds it, level by level out to the window, in line
+// with the button; over it as a last resort.
+posto posto_accanto(QPushButton& stampa, QSize misura, QSize minima) {
+  for (QWidget* a = &stampa; a->parentWidget() != nullptr && !a->isWindow(); a = a->parentWidget()) {
+    QWidget& genitore = *a->parentWidget();
+    const QRect s = a->geometry();
+    const QPoint b = stampa.mapTo(&genitore, QPoint(0, 0));
+    for (QSize m : {misura, minima}) {
+      const QRect candidati[] = {
+          {QPoint(s.right() + 1 + distacco, b.y()), m},
+          {QPoint(s.left() - distacco - m.width(), b.y()), m},
+          {QPoint(b.x(), s.bottom() + 1 + distacco), m},
+          {QPoint(b.x(), s.top() - distacco - m.height()), m},
+      };
+      for (const QRect& r : candidati) {
+        if (libero(r, genitore, *a)) return {&genitore, r};
+      }
+    }
   }
-  return {QPoint(s.right() - misura.width(), s.top()), misura};
+  return {stampa.parentWidget(), stampa.geometry()};
 }
 
 // Keeps the preview button enabled and shown as its print button is.
@@ -59,10 +74,12 @@ class segue_stampa : public QObject {
 };
 
 void aggiungi_anteprima(finestra_modulo& f, QPushButton& stampa) {
-  auto* bottone = new QPushButton(QStringLiteral("Anteprima"), stampa.parentWidget());
+  auto* bottone = new QPushButton(QStringLiteral("Anteprima"));
   bottone->setObjectName(QStringLiteral("cmdanteprima"));
   const QSize misura(std::max(stampa.width(), bottone->sizeHint().width()), stampa.height());
-  bottone->setGeometry(posto_accanto(stampa, misura));
+  const posto dove = posto_accanto(stampa, misura, bottone->sizeHint());
+  bottone->setParent(dove.genitore);
+  bottone->setGeometry(dove.rettangolo);
   QObject::connect(bottone, &QPushButton::clicked, &f, [&f, &stampa] { anteprima(f, stampa); });
   bottone->setEnabled(stampa.isEnabled());
   bottone->setHidden(stampa.isHidden());

@@ -84,7 +84,9 @@ void caselle_pannelli(figura_schedina_mm& f, schedina sch) {
 QRectF area_di(const std::vector<casella_mm>& caselle) {
   QRectF area;
   for (const casella_mm& c : caselle) area = area.isNull() ? c.mm : area.united(c.mm);
-  return area.adjusted(-5, -5, 5, 5);
+  // A margin round the boxes, within the page.
+  area.adjust(-5, -5, 5, 5);
+  return area.intersected(QRectF(0.5, 0.5, 209, 296));
 }
 
 figura_schedina_mm componi(schedina s) {
