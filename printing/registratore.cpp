@@ -135,6 +135,9 @@ void registratore::chiudi_pagina() {
 
 void registratore::concludi() {
   if (disegno_) chiudi_pagina();
+  // The recording is complete: what the vectors kept for growth goes.
+  dati_.shrink_to_fit();
+  pagine_.shrink_to_fit();
 }
 
 void registratore::imposta_scala_mm() { codice(op_scala); }
@@ -145,21 +148,21 @@ void registratore::imposta_modo_pagina(int modo) {
 }
 
 void registratore::imposta_penna(int stile, int spessore) {
-  corrente_.penna_stile = stile;
-  corrente_.penna_spessore = spessore;
+  corrente_.penna_stile = static_cast<int16_t>(stile);
+  corrente_.penna_spessore = static_cast<int16_t>(spessore);
   codice(op_penna);
   intero(stile);
   intero(spessore);
 }
 
 void registratore::imposta_riempimento(int stile) {
-  corrente_.riempimento_stile = stile;
+  corrente_.riempimento_stile = static_cast<int16_t>(stile);
   codice(op_riempimento1);
   intero(stile);
 }
 
 void registratore::imposta_riempimento(int stile, int32_t colore) {
-  corrente_.riempimento_stile = stile;
+  corrente_.riempimento_stile = static_cast<int16_t>(stile);
   corrente_.riempimento_colore = colore;
   codice(op_riempimento2);
   intero(stile);

@@ -22,8 +22,9 @@ class registratore : public dispositivo_stampa {
  public:
   // The device state a page begins with.
   struct stato_iniziale {
-    int32_t penna_stile = 1, penna_spessore = 1;
-    int32_t riempimento_stile = 1, riempimento_colore = 0;
+    int16_t penna_stile = 1, penna_spessore = 1;
+    int16_t riempimento_stile = 1;
+    int32_t riempimento_colore = 0;
     float font_dimensione = 8.0f;
     uint16_t font_nome = 0;  // index into the names of fonts
     bool font_grassetto = false;
@@ -38,8 +39,9 @@ class registratore : public dispositivo_stampa {
   // The slip the pages from now on are drawn for (the picture under them).
   void imposta_schedina(schedina s) { schedina_ = s; }
 
-  // Keeps the page in course, when something was drawn on it: the end of a
-  // run that stopped without closing its job.
+  // The run is over: keeps the page in course when something was drawn on
+  // it (a run that stopped without closing its job), and gives back the
+  // room kept for growth.
   void concludi();
 
   size_t pagine() const { return pagine_.size(); }
