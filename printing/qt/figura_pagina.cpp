@@ -10,10 +10,6 @@
 
 namespace schedine {
 
-namespace {
-
-// The factory tables of a slip, on a scratch state whose file goes to a
-// folder of its own, never the user's.
 std::unique_ptr<stato> stato_di_fabbrica(void (*fabbrica)(stato&)) {
   QTemporaryDir cartella;
   auto s = std::make_unique<stato>();
@@ -21,6 +17,8 @@ std::unique_ptr<stato> stato_di_fabbrica(void (*fabbrica)(stato&)) {
   fabbrica(*s);
   return s;
 }
+
+namespace {
 
 class raccolta {
  public:

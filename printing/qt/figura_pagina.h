@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QPainter>
 #include <QRectF>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,8 @@
 #include "printing/schedina_in_stampa.h"
 
 namespace schedine {
+
+struct stato;
 
 // A box of the slip: its rectangle in millimetres and the text printed in it.
 struct casella_mm {
@@ -36,6 +39,10 @@ inline constexpr double altezza_casella_mm = 3.0;
 
 // The picture of a slip, computed once from its factory tables.
 const figura_schedina_mm& figura_di(schedina s);
+
+// The factory tables of a slip, on a scratch state whose file goes to a
+// folder of its own, never the user's.
+std::unique_ptr<stato> stato_di_fabbrica(void (*fabbrica)(stato&));
 
 // Paints the picture at the scale (dots a millimetre); nothing for `nessuna`.
 // Boxes wholly outside `visibile` (in dots; empty for all) are not drawn.
