@@ -105,6 +105,11 @@ size_t registratore::byte_occupati() const {
 
 void registratore::codice(uint8_t c) { dati_.push_back(c); }
 
+void registratore::operazione(uint8_t c) {
+  usato_ = true;
+  codice(c);
+}
+
 void registratore::numero(float v) {
   uint8_t b[sizeof v];
   std::memcpy(b, &v, sizeof v);
@@ -140,42 +145,42 @@ void registratore::concludi() {
   pagine_.shrink_to_fit();
 }
 
-void registratore::imposta_scala_mm() { codice(op_scala); }
+void registratore::imposta_scala_mm() { operazione(op_scala); }
 
 void registratore::imposta_modo_pagina(int modo) {
-  codice(op_modo);
+  operazione(op_modo);
   intero(modo);
 }
 
 void registratore::imposta_penna(int stile, int spessore) {
   corrente_.penna_stile = static_cast<int16_t>(stile);
   corrente_.penna_spessore = static_cast<int16_t>(spessore);
-  codice(op_penna);
+  operazione(op_penna);
   intero(stile);
   intero(spessore);
 }
 
 void registratore::imposta_riempimento(int stile) {
   corrente_.riempimento_stile = static_cast<int16_t>(stile);
-  codice(op_riempimento1);
+  operazione(op_riempimento1);
   intero(stile);
 }
 
 void registratore::imposta_riempimento(int stile, int32_t colore) {
   corrente_.riempimento_stile = static_cast<int16_t>(stile);
   corrente_.riempimento_colore = colore;
-  codice(op_riempimento2);
+  operazione(op_riempimento2);
   intero(stile);
   intero(colore);
 }
 
 void registratore::disegna_punto_zero() {
-  codice(op_punto_zero);
+  operazione(op_punto_zero);
   disegnata();
 }
 
 void registratore::disegna_cerchio(float x, float y, float raggio) {
-  codice(op_cerchio);
+  operazione(op_cerchio);
   numero(x);
   numero(y);
   numero(raggio);
@@ -184,7 +189,7 @@ void registratore::disegna_cerchio(float x, float y, float raggio) {
 }
 
 void registratore::disegna_rettangolo(float x1, float y1, float x2, float y2) {
-  codice(op_rettangolo);
+  operazione(op_rettangolo);
   numero(x1);
   numero(y1);
   numero(x2);
@@ -197,26 +202,26 @@ void registratore::imposta_font_nome(const std::string& nome) {
   auto it = std::find(font_.begin(), font_.end(), nome);
   if (it == font_.end()) it = font_.insert(font_.end(), nome);
   corrente_.font_nome = static_cast<uint16_t>(it - font_.begin());
-  codice(op_font_nome);
+  operazione(op_font_nome);
   intero(corrente_.font_nome);
 }
 
 void registratore::imposta_font_dimensione(float punti) {
   if (punti > 0.0f) corrente_.font_dimensione = punti;
-  codice(op_font_dimensione);
+  operazione(op_font_dimensione);
   numero(punti);
 }
 
 void registratore::imposta_font_grassetto(bool grassetto) {
   corrente_.font_grassetto = grassetto;
-  codice(op_font_grassetto);
+  operazione(op_font_grassetto);
   codice(grassetto ? 1 : 0);
 }
 
 void registratore::posiziona_testo(float x, float y) {
   corrente_.testo_x = x;
   corrente_.testo_y = y;
-  codice(op_posiziona);
+  operazione(op_posiziona);
   numero(x);
   numero(y);
 }
@@ -224,7 +229,7 @@ void registratore::posiziona_testo(float x, float y) {
 void registratore::stampa_testo(const std::string& testo) {
   // The slip's line is short; a longer text is kept to its first 65,535 bytes.
   const size_t n = std::min<size_t>(testo.size(), 0xFFFF);
-  codice(op_testo);
+  operazione(op_testo);
   codice(static_cast<uint8_t>(n & 0xFF));
   codice(static_cast<uint8_t>(n >> 8));
   dati_.insert(dati_.end(), testo.begin(), testo.begin() + static_cast<std::ptrdiff_t>(n));
@@ -232,11 +237,13 @@ void registratore::stampa_testo(const std::string& testo) {
 }
 
 void registratore::nuova_pagina() {
+  usato_ = true;
   ++numero_;
   chiudi_pagina();
 }
 
 void registratore::chiudi_stampa() {
+  usato_ = true;
   numero_ = 1;
   chiudi_pagina();
 }

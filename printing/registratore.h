@@ -45,6 +45,9 @@ class registratore : public dispositivo_stampa {
   void concludi();
 
   size_t pagine() const { return pagine_.size(); }
+  // Whether any operation came at all: a run that opened a job with no slip
+  // in it, unlike a print its checks refused.
+  bool usato() const { return usato_; }
   const pagina& pagina_n(size_t i) const { return pagine_[i]; }
   // Marks kept (circles and boxes), and the bytes the recording holds.
   size_t segni() const { return segni_; }
@@ -76,6 +79,7 @@ class registratore : public dispositivo_stampa {
 
  private:
   void codice(uint8_t c);
+  void operazione(uint8_t c);
   void numero(float v);
   void intero(int32_t v);
   void disegnata();
@@ -91,6 +95,7 @@ class registratore : public dispositivo_stampa {
   schedina schedina_ = schedina::nessuna;
   size_t segni_ = 0;
   int numero_ = 1;
+  bool usato_ = false;
 };
 
 }  // namespace schedine

@@ -115,7 +115,9 @@ void anteprima(finestra_modulo& f, QPushButton& stampa) {
   stampa.click();
   regia->devia(nullptr);
   pagine->concludi();
-  if (pagine->pagine() == 0) return;
+  // A print its checks refused shows nothing; a run with no slip in it
+  // shows that no slip would come out.
+  if (!pagine->usato()) return;
   auto* finestra = new finestra_anteprima(std::move(pagine), *regia, &f);
   finestra->show();
 }

@@ -15,7 +15,7 @@ class finestra_modulo;
 void aggiungi_comandi_stampa(finestra_modulo& f, const std::vector<QWidget*>& pannelli);
 
 // "Anteprima": the print button's own click, into a recorder, then the
-// preview window of what was recorded (none when nothing was).
+// preview window of what was recorded (none when the print did not start).
 void anteprima(finestra_modulo& f, QPushButton& stampa);
 
 }  // namespace schedine

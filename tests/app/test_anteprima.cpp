@@ -15,6 +15,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <algorithm>
+#include <functional>
 
 #include "app/anteprima/finestra_anteprima.h"
 #include "app/anteprima/pagina_anteprima.h"
@@ -58,7 +59,7 @@ finestra_anteprima* anteprima_aperta() {
 }
 
 class Anteprima : public ::testing::Test {
- protected:
+ public:
   void SetUp() override { b.avvia(); }
   void TearDown() override {
     if (auto* f = anteprima_aperta()) delete f;
@@ -180,6 +181,97 @@ TEST_F(Anteprima, ProgressBarCountsSlips) {
   clic(w(lotto, "cmdstampa", 1));
   EXPECT_EQ(visto, QStringLiteral("2 di 5"));
 }
+
+// Every window that prints has its preview, over the slip it prints on, and
+// prints from it what the rule drew.
+struct finestra_che_stampa {
+  const char* nome;
+  const char* modulo;
+  schedina carta;
+  std::function<void(Anteprima&)> apri;
+};
+
+class OgniFinestra : public Anteprima, public ::testing::WithParamInterface<finestra_che_stampa> {
+ public:
+  // The first system of a game, chosen on Form1.
+  void scegli(int gioco) {
+    clic(w<QRadioButton>("Form1", "Option1", gioco));
+    auto* lista = w<QListWidget>("Form1", "List1");
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(lista->item(0)).center());
+  }
+  // ... and its slip form.
+  void scheda(int gioco) {
+    scegli(gioco);
+    clic(w("Form1", "cmdok"));
+  }
+  void clic_su(const char* modulo, const char* nome, int indice = -1) { clic(w(modulo, nome, indice)); }
+};
+
+TEST_P(OgniFinestra, PreviewsOverItsSlipAndPrintsFromThePreview) {
+  const finestra_che_stampa& caso = GetParam();
+  caso.apri(*this);
+  nuove_righe();
+  clic(bottone(caso.modulo, "cmdanteprima"));
+  finestra_anteprima* f = anteprima_aperta();
+  ASSERT_NE(f, nullptr);
+  ASSERT_GE(f->pagine().pagine(), 1u);
+  for (size_t i = 0; i < f->pagine().pagine(); ++i) EXPECT_EQ(f->pagine().pagina_n(i).carta, caso.carta);
+  EXPECT_TRUE(disegni(nuove_righe()).empty());
+  clic(f->findChild<QPushButton*>(QStringLiteral("stampa")));
+  const auto righe = nuove_righe();
+  const auto stampate = disegni(righe);
+  EXPECT_EQ(conta(stampate, "nuova_pagina") + 1, static_cast<int>(f->pagine().pagine()));
+  EXPECT_GT(std::count_if(stampate.begin(), stampate.end(), [](const std::string& r) { return r.rfind("disegna_", 0) == 0; }), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tutte, OgniFinestra,
+    ::testing::Values(
+        finestra_che_stampa{"Lotto", lotto, schedina::lotto,
+                            [](Anteprima& t) {
+                              auto& o = static_cast<OgniFinestra&>(t);
+                              o.scheda(1);
+                              o.clic_su(lotto, "ChRuote", 0);
+                              o.clic_su(lotto, "ChTerno", 8);
+                            }},
+        finestra_che_stampa{"DieciELotto", "Form_sched_10elotto", schedina::diecielotto,
+                            [](Anteprima& t) {
+                              auto& o = static_cast<OgniFinestra&>(t);
+                              o.scegli(8);
+                              o.b.binder.evento([&] {
+                                o.b.p.moduli("Form1").nascondi();
+                                o.b.p.moduli("Form_sched_10elotto").mostra();
+                              });
+                              o.clic_su("Form_sched_10elotto", "chkTipoEstrazione", 1);
+                              o.clic_su("Form_sched_10elotto", "chk10elottoImporto", 2);
+                            }},
+        finestra_che_stampa{"SuperEnalotto", "Form_sched_enalotto", schedina::enalotto,
+                            [](Anteprima& t) { static_cast<OgniFinestra&>(t).scheda(4); }},
+        finestra_che_stampa{"SuperEnalottoSuperstar", "Form_sched_enalotto", schedina::enalotto2,
+                            [](Anteprima& t) {
+                              auto& o = static_cast<OgniFinestra&>(t);
+                              o.scheda(4);
+                              o.clic_su("Form_sched_enalotto", "Option2");
+                            }},
+        finestra_che_stampa{"WinForLife5", "Form_sched_wforlife5", schedina::wforlife5,
+                            [](Anteprima& t) { static_cast<OgniFinestra&>(t).scheda(9); }},
+        finestra_che_stampa{"WinForLife", "Form_sched_wforlife", schedina::wforlife,
+                            [](Anteprima& t) {
+                              auto& o = static_cast<OgniFinestra&>(t);
+                              o.scheda(9);
+                              o.clic_su("Form_sched_wforlife5", "Option2");
+                            }},
+        finestra_che_stampa{"TarLotto", "tar_lotto", schedina::lotto,
+                            [](Anteprima& t) { static_cast<OgniFinestra&>(t).clic_su("Form1", "Command7"); }},
+        finestra_che_stampa{"TarEnalotto", "tar_enalotto", schedina::enalotto,
+                            [](Anteprima& t) { static_cast<OgniFinestra&>(t).clic_su("Form1", "Command2"); }},
+        finestra_che_stampa{"TarEnalotto2", "tar_enalotto2", schedina::enalotto2,
+                            [](Anteprima& t) { static_cast<OgniFinestra&>(t).clic_su("Form1", "Command4"); }},
+        finestra_che_stampa{"TarWforlife", "tar_wforlife", schedina::wforlife,
+                            [](Anteprima& t) { static_cast<OgniFinestra&>(t).clic_su("Form1", "Command5"); }},
+        finestra_che_stampa{"TarWforlife5", "tar_wforlife5", schedina::wforlife5,
+                            [](Anteprima& t) { static_cast<OgniFinestra&>(t).clic_su("Form1", "Command6"); }}),
+    [](const auto& info) { return std::string(info.param.nome); });
 
 }  // namespace
 }  // namespace schedine::test
