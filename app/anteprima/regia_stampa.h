@@ -35,6 +35,7 @@ class regia_stampa : public servizi_piattaforma {
 
   // While set, print rules draw on this device instead of the printer.
   void devia(dispositivo_stampa* dispositivo) { deviato_ = dispositivo; }
+  dispositivo_stampa* deviato() const { return deviato_; }
   bool in_anteprima() const { return deviato_ != nullptr; }
 
   // "Interrompi": the run ends its job after the slip in course.

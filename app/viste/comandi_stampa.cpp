@@ -111,9 +111,12 @@ void anteprima(finestra_modulo& f, QPushButton& stampa) {
   if (regia == nullptr || !stampa.isEnabled()) return;
   auto pagine = std::make_unique<registratore>();
   pagine->imposta_schedina(regia->schedina_del_modulo(f.nome_modulo()));
+  // A preview asked for while another print runs (its events let the user
+  // click) gives the device back to that print when it ends.
+  dispositivo_stampa* prima = regia->deviato();
   regia->devia(pagine.get());
   stampa.click();
-  regia->devia(nullptr);
+  regia->devia(prima);
   pagine->concludi();
   // A print its checks refused shows nothing; a run with no slip in it
   // shows that no slip would come out.
