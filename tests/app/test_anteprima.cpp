@@ -15,11 +15,13 @@
 #include <QTest>
 #include <QToolButton>
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 
 #include "app/anteprima/finestra_anteprima.h"
 #include "app/anteprima/pagina_anteprima.h"
 #include "printing/registratore.h"
+#include "tests/printing/strumenti_pdf.h"
 #include "tests/app/banco_app.h"
 
 namespace schedine::test {
@@ -119,6 +121,18 @@ TEST_F(Anteprima, PreviewRunsThePrintRuleAndPrintsWhatStampaPrints) {
   clic(f->findChild<QToolButton*>(QStringLiteral("successiva")));
   EXPECT_EQ(numero->text(), QStringLiteral("Scheda 3 di 12"));
   EXPECT_EQ(f->pagina().pagina(), 2u);
+
+  // "Salva PDF" writes the recorded slips, with the slip's picture as the window shows them or without.
+  for (bool figura : {true, false}) {
+    const std::string file = b.cartella.file(figura ? "con_figura.pdf" : "senza_figura.pdf");
+    f->chiedi_file_pdf = [&] { return QString::fromStdString(file); };
+    f->findChild<QCheckBox*>(QStringLiteral("figura"))->setChecked(figura);
+    clic(f->findChild<QPushButton*>(QStringLiteral("salva_pdf")));
+    EXPECT_EQ(prova::conta_pagine(QString::fromStdString(file)), 12);
+  }
+  EXPECT_GT(std::filesystem::file_size(b.cartella.file("con_figura.pdf")),
+            std::filesystem::file_size(b.cartella.file("senza_figura.pdf")) + 10'000)
+      << "the picture's boxes";
 
   // "Stampa" of the preview sends the recorded slips, the rule does not run again.
   clic(f->findChild<QPushButton*>(QStringLiteral("stampa")));
