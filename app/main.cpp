@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "app/anteprima/regia_stampa.h"
 #include "app/binder/accessibilita.h"
 #include "app/binder/legame.h"
 #include "app/piattaforma_qt/piattaforma_qt.h"
@@ -24,10 +25,13 @@ int main(int argc, char** argv) {
 
   const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
   piattaforma_qt piattaforma(cartella);
+  // The forms print through the preview and stop commands of the windows.
+  regia_stampa regia(piattaforma);
   // The program and its files are Italian: numbers are shown and read the
   // Italian way whatever the system's locale.
-  programma p(cartella, piattaforma, formato_locale::italiano());
-  legame binder(p.moduli, piattaforma, &crea_finestra);
+  programma p(cartella, regia, formato_locale::italiano());
+  regia.imposta_stato(&p.s);
+  legame binder(p.moduli, regia, &crea_finestra);
 
   // A rule that lets pending events run shows its progress first.
   piattaforma.prima_degli_eventi = [&binder] { binder.aggiorna(); };
@@ -36,7 +40,8 @@ int main(int argc, char** argv) {
       if (finestra_modulo* f = binder.finestra(nome)) applica_skin(*f, foglio);
     }
   };
-  binder.alla_creazione = [&piattaforma](finestra_modulo& f) {
+  binder.alla_creazione = [&piattaforma, &regia](finestra_modulo& f) {
+    f.regia = &regia;
     if (!piattaforma.foglio_skin().isEmpty()) applica_skin(f, piattaforma.foglio_skin());
   };
   binder.al_termine_per_guasto = [&binder] {
@@ -49,7 +54,8 @@ int main(int argc, char** argv) {
       std::_Exit(3);
     }
   };
-  binder.dopo_evento = [&binder, &p] {
+  binder.dopo_evento = [&binder, &p, &regia] {
+    if (binder.profondita() == 0) regia.fine_evento();
     if (p.terminato() || !p.moduli("Form1").caricato()) {
       binder.ferma();
       QCoreApplication::quit();

@@ -33,7 +33,7 @@ fi
 
 cmake -S . -B "$cartella" -G Ninja -DCMAKE_BUILD_TYPE=Release -DSCHEDINE_SANITIZE=OFF \
   -DSCHEDINE_TESTS=OFF -DSCHEDINE_BENCH=ON -DSCHEDINE_QT=ON > /dev/null
-cmake --build "$cartella" -j 2 --target bench_stampa bench_catalogo
+cmake --build "$cartella" -j 2 --target bench_stampa bench_catalogo bench_anteprima
 
 export QT_QPA_PLATFORM=offscreen
 rm -rf "$risultati"
@@ -186,3 +186,9 @@ awk -v inizio="$inizio" -v fine="$fine" -v cifre="$cifre" '
 ' "$esiti" > "$esiti.nuovo"
 mv "$esiti.nuovo" "$esiti"
 cat "$cifre"
+
+# The print preview, in a section of its own.
+anteprima=$risultati/anteprima.json
+"$cartella/bench/bench_anteprima" "--benchmark_repetitions=$ripetizioni" "--benchmark_report_aggregates_only=true" \
+  "--benchmark_format=json" "--benchmark_out=$anteprima" > /dev/null 2> "$risultati/anteprima.err"
+scripts/risultati_anteprima.sh "$anteprima" "$ripetizioni" "$esiti"

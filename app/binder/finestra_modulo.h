@@ -15,6 +15,7 @@ namespace schedine {
 
 class insieme_moduli;
 class modulo;
+class regia_stampa;
 
 class finestra_modulo : public QWidget {
  public:
@@ -39,6 +40,9 @@ class finestra_modulo : public QWidget {
   // The button Enter presses when the key reaches the window: the focus is
   // on no button of its own. None: Enter does nothing.
   void imposta_pulsante_predefinito(QPushButton* pulsante);
+  // The print commands of the program ("Anteprima", "Interrompi"), set by
+  // whoever makes the window; without them those buttons do nothing.
+  regia_stampa* regia = nullptr;
 
  protected:
   void closeEvent(QCloseEvent* evento) override;

@@ -2,7 +2,6 @@
 
 #include <QFont>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <memory>
 
@@ -10,6 +9,7 @@
 #include "core/stato.h"
 #include "forms/calibration/tar_lotto.h"
 #include "forms/calibration/tar_pannelli.h"
+#include "printing/qt/figura_pagina.h"
 
 namespace schedine {
 
@@ -30,16 +30,6 @@ void retta(const std::vector<double>& mm, const std::vector<double>& px, double&
   const double varianza = n * smm - sm * sm;
   scala = varianza == 0 ? 1 : (n * smp - sm * sp) / varianza;
   origine = n == 0 ? 0 : (sp - scala * sm) / n;
-}
-
-// The factory tables of a slip, on a scratch state whose files go to a
-// folder of their own.
-std::unique_ptr<stato> stato_di_fabbrica(void (*fabbrica)(stato&)) {
-  QTemporaryDir cartella;
-  auto s = std::make_unique<stato>();
-  s->cartella_programma = cartella.path().toStdString();
-  fabbrica(*s);
-  return s;
 }
 
 // Every box of the Lotto slip, the numbers with their number.

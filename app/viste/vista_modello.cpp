@@ -23,6 +23,7 @@
 #include "app/binder/widget_forma.h"
 #include "app/figure/figure.h"
 #include "app/viste/collocazione.h"
+#include "app/viste/comandi_stampa.h"
 #include "app/viste/ordine_tab.h"
 #include "app/viste/registro_viste.h"
 #include "app/viste/strumenti_vista.h"
@@ -269,12 +270,13 @@ void costruisci(finestra_modulo& f, modulo& m) {
   costruzione k;
   crea_widget_del_modulo(f, m, k);
   colloca_widget_del_modulo(m, k);
-  ordina_tabulazione(f);
   parti_finestra parti{k.widget_di(nullptr), k.cornici, k.pannelli};
   const QSize progetto = dimensione_finestra(m, parti.primo_livello);
   prepara_pannelli(parti.pannelli, progetto);
   f.setFixedSize(progetto);
   porta_sopra_le_cornici_mostrate(parti.cornici);
+  aggiungi_comandi_stampa(f, parti.pannelli);
+  ordina_tabulazione(f);
   f.dopo_aggiornamento = [&f, parti](modulo& form) { aggiorna_finestra(f, form, parti); };
   f.regola_chiusura = &chiusura;
   f.usa_skin = true;

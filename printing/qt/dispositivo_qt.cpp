@@ -1,6 +1,5 @@
 #include "printing/qt/dispositivo_qt.h"
 
-#include <QFontMetricsF>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -17,7 +16,6 @@ namespace schedine {
 
 namespace {
 
-constexpr int riempimento_pieno = 0;
 constexpr int modo_verticale = 1;
 
 QPageLayout pagina_intera(const QPageSize& formato, QPageLayout::Orientation orientamento) {
@@ -56,9 +54,7 @@ std::unique_ptr<dispositivo_qt> dispositivo_qt::per_stampante_predefinita() {
 }
 
 dispositivo_qt::dispositivo_qt(std::unique_ptr<QPdfWriter> pdf)
-    : pdf_(std::move(pdf)), font_(QStringLiteral("arial")) {
-  font_.setPointSizeF(8.0);
-}
+    : pdf_(std::move(pdf)) {}
 
 dispositivo_qt::~dispositivo_qt() { termina(); }
 
@@ -74,21 +70,25 @@ void dispositivo_qt::termina() {
 // Paper is needed from here on.
 
 QPainter& dispositivo_qt::pagina_pronta() {
+  bool pagina_nuova = !lavoro_aperto_ || pagine_da_alimentare_ > 0;
   if (!lavoro_aperto_) apri_lavoro();
   for (; pagine_da_alimentare_ > 0; --pagine_da_alimentare_) foglio_->newPage();
+  if (pagina_nuova && sfondo_) {
+    pittore_.save();
+    sfondo_(pittore_, pittura_.scala());
+    pittore_.restore();
+  }
   return pittore_;
 }
 
 void dispositivo_qt::apri_lavoro() {
   trattieni_memoria_pdf();
-  // A new painter or paper may hold another font and another resolution.
-  font_applicato_valido_ = false;
   if (pdf_) {
     apri_lavoro_pdf();
   } else {
     apri_lavoro_stampante();
   }
-  scala_ = misure_mm::scala_per_dpi(foglio_->logicalDpiX(), foglio_->logicalDpiY());
+  pittura_.inizia(pittore_, misure_mm::scala_per_dpi(foglio_->logicalDpiX(), foglio_->logicalDpiY()));
   lavoro_aperto_ = true;
 }
 
@@ -130,95 +130,36 @@ void dispositivo_qt::imposta_modo_pagina(int modo) {
 
 void dispositivo_qt::imposta_penna(int /*stile*/, int spessore) {
   // The only pen the system asks for is the thinnest solid line.
-  spessore_penna_ = spessore;
+  pittura_.imposta_penna(spessore);
 }
 
-void dispositivo_qt::imposta_riempimento(int stile) { stile_riempimento_ = stile; }
+void dispositivo_qt::imposta_riempimento(int stile) { pittura_.imposta_riempimento(stile); }
 
-void dispositivo_qt::imposta_riempimento(int stile, int32_t colore) {
-  stile_riempimento_ = stile;
-  colore_riempimento_ = colore;
-}
-
-QPen dispositivo_qt::penna() const {
-  // Width 0 is Qt's cosmetic hairline: one dot of the device, the thinnest it
-  // can draw. Wider pens are counted in device dots.
-  QPen penna(Qt::black);
-  penna.setWidth(spessore_penna_ <= 1 ? 0 : spessore_penna_);
-  penna.setCosmetic(true);
-  return penna;
-}
-
-QBrush dispositivo_qt::pennello() const {
-  if (stile_riempimento_ != riempimento_pieno) return Qt::NoBrush;
-  const auto c = misure_mm::colore_da_intero(colore_riempimento_);
-  return QBrush(QColor(c.rosso, c.verde, c.blu));
-}
-
-void dispositivo_qt::applica_forma(QPainter& p) {
-  const QPen voluta = penna();
-  if (p.pen() != voluta) p.setPen(voluta);
-  const QBrush voluto = pennello();
-  if (p.brush() != voluto) p.setBrush(voluto);
-}
+void dispositivo_qt::imposta_riempimento(int stile, int32_t colore) { pittura_.imposta_riempimento(stile, colore); }
 
 void dispositivo_qt::disegna_punto_zero() {
-  QPainter& p = pagina_pronta();
-  // One device dot at the origin, black whatever the fill state.
-  p.fillRect(QRectF(0.0, 0.0, 1.0, 1.0), Qt::black);
+  pagina_pronta();
+  pittura_.punto_zero();
 }
 
 void dispositivo_qt::disegna_cerchio(float x, float y, float raggio) {
-  QPainter& p = pagina_pronta();
-  const auto r = misure_mm::rettangolo_cerchio(scala_, x, y, raggio);
-  applica_forma(p);
-  p.drawEllipse(QRectF(r.x, r.y, r.larghezza, r.altezza));
+  pagina_pronta();
+  pittura_.cerchio(x, y, raggio);
 }
 
 void dispositivo_qt::disegna_rettangolo(float x1, float y1, float x2, float y2) {
-  QPainter& p = pagina_pronta();
-  const auto r = misure_mm::rettangolo_angoli(scala_, x1, y1, x2, y2);
-  applica_forma(p);
-  p.drawRect(QRectF(r.x, r.y, r.larghezza, r.altezza));
+  pagina_pronta();
+  pittura_.rettangolo(x1, y1, x2, y2);
 }
 
-// Text.
-
-void dispositivo_qt::imposta_font_nome(const std::string& nome) { font_.setFamily(QString::fromStdString(nome)); }
-
-void dispositivo_qt::imposta_font_dimensione(float punti) {
-  if (punti > 0.0f) font_.setPointSizeF(punti);
-}
-
-void dispositivo_qt::imposta_font_grassetto(bool grassetto) { font_.setBold(grassetto); }
-
-void dispositivo_qt::posiziona_testo(float x, float y) {
-  testo_x_ = x;
-  testo_y_ = y;
-}
-
-void dispositivo_qt::applica_testo(QPainter& p) {
-  if (!font_applicato_valido_ || font_applicato_ != font_) {
-    p.setFont(font_);
-    const QFontMetricsF metriche(font_, foglio_);
-    ascesa_ = metriche.ascent();
-    altezza_riga_ = metriche.height();
-    font_applicato_ = font_;
-    font_applicato_valido_ = true;
-  }
-  const QPen voluta(Qt::black);
-  if (p.pen() != voluta) p.setPen(voluta);
-}
+void dispositivo_qt::imposta_font_nome(const std::string& nome) { pittura_.imposta_font_nome(nome); }
+void dispositivo_qt::imposta_font_dimensione(float punti) { pittura_.imposta_font_dimensione(punti); }
+void dispositivo_qt::imposta_font_grassetto(bool grassetto) { pittura_.imposta_font_grassetto(grassetto); }
+void dispositivo_qt::posiziona_testo(float x, float y) { pittura_.posiziona_testo(x, y); }
 
 void dispositivo_qt::stampa_testo(const std::string& testo) {
-  QPainter& p = pagina_pronta();
-  applica_testo(p);
-  // The text position is the top of the line; the painter wants the baseline.
-  const auto inizio = misure_mm::in_punti(scala_, testo_x_, testo_y_);
-  p.drawText(QPointF(inizio.x, inizio.y + ascesa_), QString::fromStdString(testo));
-  // The next line starts at the left edge, one line lower.
-  testo_x_ = 0.0f;
-  testo_y_ += static_cast<float>(misure_mm::altezza_in_mm(scala_, altezza_riga_));
+  pagina_pronta();
+  pittura_.testo(testo);
 }
 
 // Pages and jobs.

@@ -10,14 +10,15 @@
 // fresh page is fed when something is drawn on it, so the empty page left by
 // the last slip's nuova_pagina never reaches the paper.
 
-#include <QFont>
 #include <QPainter>
 #include <QPageLayout>
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "printing/dispositivo_stampa.h"
 #include "printing/qt/misure_mm.h"
+#include "printing/qt/pittura_mm.h"
 
 class QPagedPaintDevice;
 class QPdfWriter;
@@ -51,6 +52,11 @@ class dispositivo_qt : public dispositivo_stampa {
   ~dispositivo_qt() override;
   void termina();
 
+  // What each page shows under the drawings, painted as the page begins (the
+  // picture of the slip in a preview). None for paper, which has its own.
+  using sfondo_pagina = std::function<void(QPainter&, misure_mm::scala)>;
+  void imposta_sfondo(sfondo_pagina sfondo) { sfondo_ = std::move(sfondo); }
+
   void imposta_scala_mm() override;
   void imposta_modo_pagina(int modo) override;
   void imposta_penna(int stile, int spessore) override;
@@ -77,18 +83,10 @@ class dispositivo_qt : public dispositivo_stampa {
   void apri_lavoro();
   void apri_lavoro_pdf();
   void apri_lavoro_stampante();
-  QPen penna() const;
-  QBrush pennello() const;
-  // Pen, brush and font go to the painter only when they differ from what it
-  // holds: every change costs the PDF engine a state update.
-  void applica_forma(QPainter& p);
-  void applica_testo(QPainter& p);
-
   std::unique_ptr<QPdfWriter> pdf_;          // PDF destination; null for the printer
   std::unique_ptr<QPrinter> stampante_;      // the printer of the open job
   QPagedPaintDevice* foglio_ = nullptr;      // what the painter is on
   QPainter pittore_;
-  misure_mm::scala scala_;
 
   bool pdf_finito_ = false;
   bool lavoro_aperto_ = false;
@@ -96,17 +94,8 @@ class dispositivo_qt : public dispositivo_stampa {
   int pagina_ = 1;
 
   QPageLayout::Orientation orientamento_ = QPageLayout::Portrait;
-  int spessore_penna_ = 1;
-  int stile_riempimento_ = 1;  // none, until a job sets it
-  int32_t colore_riempimento_ = 0;
-  QFont font_;
-  // The font the painter holds and its metrics on foglio_; stale when false.
-  bool font_applicato_valido_ = false;
-  QFont font_applicato_;
-  double ascesa_ = 0.0;      // dots from the top of a line to its baseline
-  double altezza_riga_ = 0.0;  // dots from one line to the next
-  float testo_x_ = 0.0f;
-  float testo_y_ = 0.0f;
+  pittura_mm pittura_;
+  sfondo_pagina sfondo_;
 };
 
 }  // namespace schedine

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 
+#include "app/anteprima/regia_stampa.h"
 #include "app/binder/legame.h"
 #include "app/binder/nomi_widget.h"
 #include "app/viste/registro_viste.h"
@@ -20,16 +21,21 @@ namespace schedine::test {
 struct banco_app {
   cartella_temporanea cartella;
   piattaforma_prova piattaforma;
+  // As in the program, the forms meet the platform through the print commands of the windows.
+  regia_stampa regia{piattaforma};
   programma p;
   legame binder;
   bool finito = false;
   bool finito_per_guasto = false;
 
   banco_app()
-      : p(prepara(cartella), piattaforma, formato_locale::italiano()), binder(p.moduli, piattaforma, &crea_finestra) {
+      : p(prepara(cartella), regia, formato_locale::italiano()), binder(p.moduli, regia, &crea_finestra) {
+    regia.imposta_stato(&p.s);
+    binder.alla_creazione = [this](finestra_modulo& f) { f.regia = &regia; };
     binder.al_termine_per_guasto = [this] { finito_per_guasto = true; };
     // As the program's main does: the main form gone is the end.
     binder.dopo_evento = [this] {
+      if (binder.profondita() == 0) regia.fine_evento();
       if (p.terminato() || !p.moduli("Form1").caricato()) {
         binder.ferma();
         finito = true;

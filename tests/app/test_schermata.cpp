@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
@@ -19,6 +20,9 @@
 #include <QTest>
 #include <functional>
 
+#include "app/anteprima/finestra_anteprima.h"
+#include "app/anteprima/pagina_anteprima.h"
+#include "app/anteprima/regia_stampa.h"
 #include "app/binder/legame.h"
 #include "app/binder/nomi_widget.h"
 #include "app/piattaforma_qt/piattaforma_qt.h"
@@ -69,10 +73,14 @@ bool contiene(const QImage& immagine, QColor colore) {
 // The whole program on a demo folder, with the platform of the desktop.
 class Schermata : public ::testing::Test {
  protected:
-  Schermata() : piattaforma(prepara(cartella)), p(cartella.str(), piattaforma, formato_locale::italiano()),
-                binder(p.moduli, piattaforma, &crea_finestra) {
+  Schermata() : piattaforma(prepara(cartella)), regia(piattaforma), p(cartella.str(), regia, formato_locale::italiano()),
+                binder(p.moduli, regia, &crea_finestra) {
+    regia.imposta_stato(&p.s);
     piattaforma.prima_degli_eventi = [this] { binder.aggiorna(); };
-    binder.alla_creazione = [this](finestra_modulo& f) { applica_skin(f, piattaforma.foglio_skin()); };
+    binder.alla_creazione = [this](finestra_modulo& f) {
+      f.regia = &regia;
+      applica_skin(f, piattaforma.foglio_skin());
+    };
     binder.al_termine_per_guasto = [] { ADD_FAILURE() << "the program stopped on a fault"; };
     binder.evento([this] { p.avvia(); });
   }
@@ -125,6 +133,7 @@ class Schermata : public ::testing::Test {
 
   cartella_temporanea cartella;
   piattaforma_qt piattaforma;
+  regia_stampa regia;
   programma p;
   legame binder;
 };
@@ -198,6 +207,38 @@ TEST_F(Schermata, WinForLifeFormsBothWays) {
   clic("Form_sched_wforlife5", "Option2");
   fotografa_modulo("Form_sched_wforlife", "Form_sched_wforlife");
   tutto_dentro("Form_sched_wforlife");
+}
+
+// The preview of a run: the first slip over its picture, then the third at
+// twice the size, and a calibration form's test sheet.
+TEST_F(Schermata, PrintPreviewOfASlipAndOfATestSheet) {
+  scegli_sistema(1, 1);
+  clic("Form1", "cmdok");
+  clic("Form_sched_lotto_ambetto", "ChRuote", 0);
+  clic("Form_sched_lotto_ambetto", "ChTerno", 8);
+  auto* anteprima = binder.finestra("Form_sched_lotto_ambetto")->findChild<QPushButton*>(QStringLiteral("cmdanteprima"));
+  ASSERT_NE(anteprima, nullptr);
+  QTest::mouseClick(anteprima, Qt::LeftButton);
+  auto* f = dynamic_cast<finestra_anteprima*>(
+      binder.finestra("Form_sched_lotto_ambetto")->findChild<QWidget*>(QStringLiteral("anteprima")));
+  ASSERT_NE(f, nullptr);
+  QImage immagine = fotografa(*f);
+  std::cout << "schermata: " << salva(immagine, QStringLiteral("anteprima_lotto.png")).toStdString() << "\n";
+  EXPECT_TRUE(contiene(immagine, Qt::white)) << "the paper";
+  f->vai_a(2);
+  f->findChild<QComboBox*>(QStringLiteral("zoom"))->setCurrentIndex(4);
+  EXPECT_EQ(f->pagina().zoom(), 2.0);
+  std::cout << "schermata: " << salva(fotografa(*f), QStringLiteral("anteprima_lotto_zoom.png")).toStdString() << "\n";
+  f->close();
+  clic("Form_sched_lotto_ambetto", "cmdexit", 3);
+  clic("Form1", "Command2");
+  auto* prova = binder.finestra("tar_enalotto")->findChild<QPushButton*>(QStringLiteral("cmdanteprima"));
+  ASSERT_NE(prova, nullptr);
+  QTest::mouseClick(prova, Qt::LeftButton);
+  f = dynamic_cast<finestra_anteprima*>(binder.finestra("tar_enalotto")->findChild<QWidget*>(QStringLiteral("anteprima")));
+  ASSERT_NE(f, nullptr);
+  std::cout << "schermata: " << salva(fotografa(*f), QStringLiteral("anteprima_tar_enalotto.png")).toStdString() << "\n";
+  f->close();
 }
 
 class SchermataTaratura : public Schermata, public ::testing::WithParamInterface<std::pair<const char*, const char*>> {};

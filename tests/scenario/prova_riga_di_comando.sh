@@ -53,14 +53,19 @@ atteso 1 --folder "$cartella" --journal "$lavoro/giornale" "$lavoro/fallisce.txt
 [[ ! -s $lavoro/uscita ]] || errore "journal written to stdout with --journal"
 [[ $(cat "$lavoro/giornale") == "ignorato Form1.Command3" ]] || errore "journal file: $(cat "$lavoro/giornale")"
 
-# --pdf works where the build has Qt, and says it is unavailable otherwise.
-"$runner" --folder "$cartella" --pdf "$lavoro/run.pdf" "$lavoro/buono.txt" > /dev/null 2> "$lavoro/errori"
-stato=$?
-if [[ $stato == 2 ]]; then
-  grep -q 'not available' "$lavoro/errori" || errore "--pdf refused without saying why: $(cat "$lavoro/errori")"
-elif [[ $stato != 0 ]]; then
-  errore "--pdf run exited $stato"
-  cat "$lavoro/errori"
-fi
+# --pdf and --anteprima work where the build has Qt, alone or together, and
+# say they are unavailable otherwise.
+for uscite in "--pdf $lavoro/run.pdf" "--anteprima $lavoro/anteprima.pdf" \
+              "--pdf $lavoro/run.pdf --anteprima $lavoro/anteprima.pdf"; do
+  # shellcheck disable=SC2086
+  "$runner" --folder "$cartella" $uscite "$lavoro/buono.txt" > /dev/null 2> "$lavoro/errori"
+  stato=$?
+  if [[ $stato == 2 ]]; then
+    grep -q 'not available' "$lavoro/errori" || errore "$uscite refused without saying why: $(cat "$lavoro/errori")"
+  elif [[ $stato != 0 ]]; then
+    errore "$uscite run exited $stato"
+    cat "$lavoro/errori"
+  fi
+done
 
 exit $fallito

@@ -2,6 +2,7 @@
 // A platform for tests: a journal in memory for the printing device and for
 // messages, no events to run, programs never started.
 
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -18,7 +19,10 @@ class piattaforma_prova : public servizi_piattaforma {
  public:
   piattaforma_prova() : giornale_(testo_), dispositivo_(giornale_) {}
 
-  void esegui_eventi_in_attesa() override { ++eventi; }
+  void esegui_eventi_in_attesa() override {
+    ++eventi;
+    if (durante_eventi) durante_eventi();
+  }
   int messaggio(const std::string& testo, int, const std::string&) override {
     giornale_.messaggio(testo);
     return risposta_ok;
@@ -39,6 +43,8 @@ class piattaforma_prova : public servizi_piattaforma {
   }
 
   int eventi = 0;
+  // What the user does while pending events run (a click in the middle of a print).
+  std::function<void()> durante_eventi;
 
  private:
   std::ostringstream testo_;

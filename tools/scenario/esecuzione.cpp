@@ -43,7 +43,7 @@ risultato esegui_azioni(esecutore& e, const std::vector<azione>& azioni, giornal
 }  // namespace
 
 risultato esegui_scenario(const std::vector<azione>& azioni, const std::string& cartella, const formato_locale& locale,
-                          giornale& g, dispositivo_stampa* altro_dispositivo) {
+                          giornale& g, dispositivo_stampa* altro_dispositivo, const al_programma& al_via) {
   dispositivo_giornale su_giornale(g);
   std::optional<dispositivo_doppio> doppio;
   if (altro_dispositivo != nullptr) doppio.emplace(su_giornale, *altro_dispositivo);
@@ -51,6 +51,7 @@ risultato esegui_scenario(const std::vector<azione>& azioni, const std::string& 
 
   piattaforma_giornale piattaforma(g, stampante);
   programma p(cartella, piattaforma, locale);
+  if (al_via) al_via(p.s);
   esecutore e(p, g);
   risultato r = esegui_azioni(e, azioni, g);
   g.svuota();
@@ -58,14 +59,14 @@ risultato esegui_scenario(const std::vector<azione>& azioni, const std::string& 
 }
 
 risultato esegui_testo_scenario(std::string_view testo, const std::string& cartella, const formato_locale& locale,
-                                giornale& g, dispositivo_stampa* altro_dispositivo) {
+                                giornale& g, dispositivo_stampa* altro_dispositivo, const al_programma& al_via) {
   std::vector<azione> azioni;
   try {
     azioni = analizza_scenario(testo);
   } catch (const errore_scenario& x) {
     return {esito::non_valido, x.riga(), x.what()};
   }
-  return esegui_scenario(azioni, cartella, locale, g, altro_dispositivo);
+  return esegui_scenario(azioni, cartella, locale, g, altro_dispositivo, al_via);
 }
 
 }  // namespace schedine::scenario

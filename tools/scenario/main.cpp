@@ -1,7 +1,7 @@
 // schedine-scenario: runs a scenario of user events on the program in a
 // folder, without a screen, and writes the journal of what it did.
 //
-//   schedine-scenario [--folder DIR] [--journal FILE] [--pdf FILE] [--locale NAME] SCENARIO
+//   schedine-scenario [--folder DIR] [--journal FILE] [--pdf FILE] [--anteprima FILE] [--locale NAME] SCENARIO
 //
 // Exit status: 0 ran and every check held, 1 a check failed, 2 a line not
 // understood or naming an unknown form, control or variable, 3 a run-time
@@ -15,6 +15,7 @@
 #include <sstream>
 #include <string>
 
+#include "printing/dispositivo_doppio.h"
 #include "printing/giornale.h"
 #include "tools/scenario/esecuzione.h"
 #include "tools/scenario/esito.h"
@@ -29,12 +30,14 @@ struct opzioni {
   std::string cartella = ".";
   std::optional<std::string> giornale;
   std::optional<std::string> pdf;
+  std::optional<std::string> anteprima;
   std::string locale = "it_IT";
   std::string scenario;
 };
 
 constexpr const char* uso =
-    "usage: schedine-scenario [--folder DIR] [--journal FILE] [--pdf FILE] [--locale NAME] SCENARIO\n";
+    "usage: schedine-scenario [--folder DIR] [--journal FILE] [--pdf FILE] [--anteprima FILE] [--locale NAME] "
+    "SCENARIO\n";
 
 // Reads "--name VALUE" or "--name=VALUE"; false when argv[i] is another option.
 bool opzione(const char* nome, int argc, char** argv, int& i, std::string& valore) {
@@ -60,6 +63,8 @@ opzioni leggi_opzioni(int argc, char** argv) {
       o.giornale = valore;
     } else if (opzione("pdf", argc, argv, i, valore)) {
       o.pdf = valore;
+    } else if (opzione("anteprima", argc, argv, i, valore)) {
+      o.anteprima = valore;
     } else if (opzione("locale", argc, argv, i, valore)) {
       o.locale = valore;
     } else if (std::string(argv[i]).rfind("--", 0) == 0 || !o.scenario.empty()) {
@@ -91,14 +96,18 @@ int esegui(const opzioni& o) {
     std::cerr << o.cartella << ": no such folder\n";
     return esito::non_valido;
   }
-  std::unique_ptr<uscita_pdf> pdf;
-  if (o.pdf) {
-    if (!pdf_disponibile()) {
-      std::cerr << "--pdf is not available: this build has no Qt\n";
-      return esito::non_valido;
-    }
-    pdf = apri_uscita_pdf(*o.pdf);
+  if ((o.pdf || o.anteprima) && !pdf_disponibile()) {
+    std::cerr << (o.pdf ? "--pdf" : "--anteprima") << " is not available: this build has no Qt\n";
+    return esito::non_valido;
   }
+  std::unique_ptr<uscita_pdf> pdf;
+  if (o.pdf) pdf = apri_uscita_pdf(*o.pdf);
+  // Made after the plain PDF, so that it goes first and the application it shares stays to the end.
+  std::unique_ptr<uscita_pdf> anteprima;
+  if (o.anteprima) anteprima = apri_uscita_anteprima(*o.anteprima);
+  std::optional<dispositivo_doppio> entrambi;
+  if (pdf && anteprima) entrambi.emplace(pdf->dispositivo(), anteprima->dispositivo());
+  dispositivo_stampa* altro = entrambi ? &*entrambi : pdf ? &pdf->dispositivo() : anteprima ? &anteprima->dispositivo() : nullptr;
   std::ofstream file_giornale;
   if (o.giornale) {
     file_giornale.open(*o.giornale, std::ios::binary | std::ios::trunc);
@@ -112,10 +121,13 @@ int esegui(const opzioni& o) {
   risultato r;
   {
     giornale g(uscita);
-    r = esegui_testo_scenario(*testo, o.cartella, formato_locale::da_nome(o.locale), g,
-                              pdf ? &pdf->dispositivo() : nullptr);
+    r = esegui_testo_scenario(*testo, o.cartella, formato_locale::da_nome(o.locale), g, altro,
+                              [&anteprima](const stato& s) {
+                                if (anteprima) anteprima->collega_stato(s);
+                              });
   }
   if (pdf) pdf->termina();
+  if (anteprima) anteprima->termina();
   if (r.stato != esito::riuscito) {
     std::cerr << o.scenario << ":" << r.riga << ": ";
     if (r.stato == esito::errore_programma) std::cerr << "run-time error: ";

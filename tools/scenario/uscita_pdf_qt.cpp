@@ -1,6 +1,8 @@
 #include <QGuiApplication>
 
 #include "printing/qt/dispositivo_qt.h"
+#include "printing/qt/figura_pagina.h"
+#include "printing/schedina_in_stampa.h"
 #include "tools/scenario/uscita_pdf.h"
 
 namespace schedine::scenario {
@@ -11,14 +13,23 @@ namespace {
 // screen, so the offscreen platform serves unless the caller chose one.
 class uscita_pdf_qt : public uscita_pdf {
  public:
-  explicit uscita_pdf_qt(const std::string& percorso) : applicazione_(crea_applicazione()) {
+  uscita_pdf_qt(const std::string& percorso, bool anteprima)
+      : applicazione_(crea_applicazione()), anteprima_(anteprima) {
     dispositivo_ = dispositivo_qt::per_pdf(percorso);
   }
   dispositivo_stampa& dispositivo() override { return *dispositivo_; }
   void termina() override { dispositivo_->termina(); }
+  // Each page begins with the picture of the slip of the form that prints.
+  void collega_stato(const stato& s) override {
+    if (!anteprima_) return;
+    dispositivo_->imposta_sfondo(
+        [&s](QPainter& p, misure_mm::scala scala) { disegna_figura(p, scala, schedina_in_stampa(s)); });
+  }
 
  private:
+  // The first output makes the application; a second one shares it.
   static std::unique_ptr<QGuiApplication> crea_applicazione() {
+    if (QCoreApplication::instance() != nullptr) return nullptr;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     static int argc = 1;
     static char nome[] = "schedine-scenario";
@@ -28,6 +39,7 @@ class uscita_pdf_qt : public uscita_pdf {
 
   // Declared first, so it goes last: the device finishes its file while the application still stands.
   std::unique_ptr<QGuiApplication> applicazione_;
+  bool anteprima_;
   std::unique_ptr<dispositivo_qt> dispositivo_;
 };
 
@@ -36,7 +48,11 @@ class uscita_pdf_qt : public uscita_pdf {
 bool pdf_disponibile() { return true; }
 
 std::unique_ptr<uscita_pdf> apri_uscita_pdf(const std::string& percorso) {
-  return std::make_unique<uscita_pdf_qt>(percorso);
+  return std::make_unique<uscita_pdf_qt>(percorso, false);
+}
+
+std::unique_ptr<uscita_pdf> apri_uscita_anteprima(const std::string& percorso) {
+  return std::make_unique<uscita_pdf_qt>(percorso, true);
 }
 
 }  // namespace schedine::scenario
