@@ -104,6 +104,7 @@ void dispositivo_qt::apri_lavoro_pdf() {
   pdf_->setPageOrientation(orientamento_);
   if (!pittore_.begin(pdf_.get())) errore_stampante("impossibile scrivere il file PDF");
   foglio_ = pdf_.get();
+  file_iniziato_ = true;
 }
 
 void dispositivo_qt::apri_lavoro_stampante() {

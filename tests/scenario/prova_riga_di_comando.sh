@@ -68,4 +68,16 @@ for uscite in "--pdf $lavoro/run.pdf" "--anteprima $lavoro/anteprima.pdf" \
   fi
 done
 
+# A PDF that can't be written whole fails the run, told before it begins
+# when it can be, and names the file and why.
+printf 'start\nclick Form1.Command2\nclick tar_enalotto.cmdstampa\nend\n' > "$lavoro/prova.txt"
+if [[ $stato != 2 ]]; then
+  atteso 4 --folder "$cartella" --pdf "$lavoro/nessuna/run.pdf" "$lavoro/prova.txt"
+  grep -q "nessuna/run.pdf: cannot write the PDF: no such folder" "$lavoro/errori" || errore "no folder: $(cat "$lavoro/errori")"
+  [[ ! -s $lavoro/uscita ]] || errore "the run went on without its PDF"
+  atteso 4 --folder "$cartella" --anteprima /dev/full "$lavoro/prova.txt"
+  grep -q "/dev/full: the PDF could not be written whole" "$lavoro/errori" || errore "full disk: $(cat "$lavoro/errori")"
+  atteso 0 --folder "$cartella" --pdf "$lavoro/prova.pdf" "$lavoro/prova.txt"
+fi
+
 exit $fallito

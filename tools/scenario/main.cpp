@@ -5,8 +5,13 @@
 //
 // Exit status: 0 ran and every check held, 1 a check failed, 2 a line not
 // understood or naming an unknown form, control or variable, 3 a run-time
-// error ended the program.
+// error ended the program, 4 the runner could not do its job (a PDF that
+// can't be written whole, a fault of its own).
 
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -85,6 +90,20 @@ std::optional<std::string> leggi_file(const std::string& percorso) {
   return contenuto.str();
 }
 
+// What keeps a file from being written, told before the run so that a PDF
+// that can't be written never changes what the program does; empty when nothing does.
+std::string ostacolo_alla_scrittura(const std::string& percorso) {
+  namespace fs = std::filesystem;
+  std::error_code ec;
+  fs::path cartella = fs::path(percorso).parent_path();
+  if (cartella.empty()) cartella = ".";
+  if (!fs::is_directory(cartella, ec)) return "no such folder";
+  const bool esiste = fs::exists(percorso, ec);
+  if (::access((esiste ? fs::path(percorso) : cartella).c_str(), W_OK) != 0) return std::strerror(errno);
+  if (esiste && fs::is_directory(percorso, ec)) return "it is a folder";
+  return {};
+}
+
 int esegui(const opzioni& o) {
   std::optional<std::string> testo = leggi_file(o.scenario);
   if (!testo) {
@@ -99,6 +118,13 @@ int esegui(const opzioni& o) {
   if ((o.pdf || o.anteprima) && !pdf_disponibile()) {
     std::cerr << (o.pdf ? "--pdf" : "--anteprima") << " is not available: this build has no Qt\n";
     return esito::non_valido;
+  }
+  for (const auto& file : {o.pdf, o.anteprima}) {
+    if (!file) continue;
+    if (std::string perche = ostacolo_alla_scrittura(*file); !perche.empty()) {
+      std::cerr << *file << ": cannot write the PDF: " << perche << "\n";
+      return esito::guasto_interno;
+    }
   }
   std::unique_ptr<uscita_pdf> pdf;
   if (o.pdf) pdf = apri_uscita_pdf(*o.pdf);
@@ -126,8 +152,17 @@ int esegui(const opzioni& o) {
                                 if (anteprima) anteprima->collega_stato(s);
                               });
   }
-  if (pdf) pdf->termina();
-  if (anteprima) anteprima->termina();
+  // Both files are finished; one not written whole fails the run.
+  std::string guasto_pdf;
+  for (auto [uscita, file] : {std::pair{pdf.get(), o.pdf}, std::pair{anteprima.get(), o.anteprima}}) {
+    if (uscita == nullptr) continue;
+    std::string perche = uscita->termina();
+    if (!perche.empty() && guasto_pdf.empty()) guasto_pdf = *file + ": " + perche;
+  }
+  if (!guasto_pdf.empty()) {
+    std::cerr << guasto_pdf << "\n";
+    return esito::guasto_interno;
+  }
   if (r.stato != esito::riuscito) {
     std::cerr << o.scenario << ":" << r.riga << ": ";
     if (r.stato == esito::errore_programma) std::cerr << "run-time error: ";

@@ -16,8 +16,9 @@ class uscita_pdf {
  public:
   virtual ~uscita_pdf() = default;
   virtual dispositivo_stampa& dispositivo() = 0;
-  // Finishes the file; nothing is drawn after it.
-  virtual void termina() = 0;
+  // Finishes the file; nothing is drawn after it. Empty, or why the file
+  // could not be written whole.
+  virtual std::string termina() = 0;
   // The program whose forms tell the slip under each page of a preview PDF.
   virtual void collega_stato(const stato&) {}
 };

@@ -1,3 +1,4 @@
+#include <QFile>
 #include <QGuiApplication>
 
 #include "printing/qt/dispositivo_qt.h"
@@ -14,11 +15,15 @@ namespace {
 class uscita_pdf_qt : public uscita_pdf {
  public:
   uscita_pdf_qt(const std::string& percorso, bool anteprima)
-      : applicazione_(crea_applicazione()), anteprima_(anteprima) {
+      : applicazione_(crea_applicazione()), percorso_(percorso), anteprima_(anteprima) {
     dispositivo_ = dispositivo_qt::per_pdf(percorso);
   }
   dispositivo_stampa& dispositivo() override { return *dispositivo_; }
-  void termina() override { dispositivo_->termina(); }
+  std::string termina() override {
+    dispositivo_->termina();
+    if (!dispositivo_->file_iniziato() || finisce_intero()) return {};
+    return "the PDF could not be written whole (is the disk full?)";
+  }
   // Each page begins with the picture of the slip of the form that prints.
   void collega_stato(const stato& s) override {
     if (!anteprima_) return;
@@ -37,8 +42,18 @@ class uscita_pdf_qt : public uscita_pdf {
     return std::make_unique<QGuiApplication>(argc, argv);
   }
 
+  // A PDF written whole ends with its end-of-file mark; Qt's writer says
+  // nothing of a write that failed on the way.
+  bool finisce_intero() const {
+    QFile file(QString::fromStdString(percorso_));
+    if (!file.open(QIODevice::ReadOnly) || file.size() < 16) return false;
+    file.seek(file.size() - 16);
+    return file.read(16).contains("%%EOF");
+  }
+
   // Declared first, so it goes last: the device finishes its file while the application still stands.
   std::unique_ptr<QGuiApplication> applicazione_;
+  std::string percorso_;
   bool anteprima_;
   std::unique_ptr<dispositivo_qt> dispositivo_;
 };
