@@ -88,10 +88,16 @@ std::pair<int, int> casella_del_segno(const std::string& modulo, int i) {
   return {1, i + 1};
 }
 
-// The text of a box of a panel slip: the panels' numbers, and on the Win
-// for Life panels the number of the line, shown in both of its boxes.
+// Whether the slip has a box for a row of a group: a Win for Life panel
+// holds the numbers 1 to 20, two to a line, though its table runs on.
+bool sulla_schedina(const std::string& modulo, int gruppo, int riga) {
+  return !(modulo == "tar_wforlife5" && gruppo <= 5 && riga > 20);
+}
+
+// The text of a box of a panel slip: the number it stands for; on the
+// one-panel Win for Life slip only the panel's numbers are shown.
 std::string testo_casella(const std::string& modulo, int gruppo, int riga) {
-  if (modulo == "tar_wforlife5") return gruppo <= 5 ? std::to_string((riga - 1) / 2 + 1) : std::string();
+  if (modulo == "tar_wforlife5") return gruppo <= 5 ? std::to_string(riga) : std::string();
   if (modulo == "tar_wforlife") return gruppo == 1 ? std::to_string(riga) : std::string();
   if (modulo == "tar_enalotto2" && gruppo == 4) return {};
   return std::to_string(riga);
@@ -119,7 +125,7 @@ QPixmap figura_pannelli(tar_pannelli& t, QSize dimensione) {
     for (int r = 1; r < tabella_coord::righe; ++r) {
       QPointF mm(s->tab_coord(g, r, 0), s->tab_coord(g, r, 1));
       // A row the slip has no box for holds nothing.
-      if (mm.x() != 0 || mm.y() != 0) caselle.push_back({mm, testo_casella(v.nome, g, r)});
+      if ((mm.x() != 0 || mm.y() != 0) && sulla_schedina(v.nome, g, r)) caselle.push_back({mm, testo_casella(v.nome, g, r)});
     }
   }
   const QSizeF segno(v.larghezza_segno * scala, v.altezza_segno * scala);
