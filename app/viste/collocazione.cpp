@@ -138,8 +138,12 @@ void ritocca(QWidget& w, QRect nuova) {
   w.setGeometry(nuova);
 }
 
+// A frame that draws an edge: its own, or a border shape inside it.
 bool a_riquadro(const QWidget& w) {
   if (qobject_cast<const QGroupBox*>(&w) != nullptr) return true;
+  for (QObject* figlio : w.children()) {
+    if (auto* bordo = dynamic_cast<widget_forma*>(figlio); bordo != nullptr && bordo->tipo() == 0) return true;
+  }
   auto* frame = qobject_cast<const QFrame*>(&w);
   return frame != nullptr && frame->metaObject() == &QFrame::staticMetaObject && frame->frameShape() != QFrame::NoFrame;
 }
@@ -147,7 +151,9 @@ bool a_riquadro(const QWidget& w) {
 // A text the design puts on its frame's very edge is moved in to where the
 // frame's other row heads begin, clear of the edge line.
 void stacca_dal_bordo(const QWidget& contenitore, QWidget& w) {
-  if (qobject_cast<QLabel*>(&w) != nullptr && a_riquadro(contenitore) && w.x() < margine_testo) ritocca(w, w.geometry().translated(margine_testo - w.x(), 0));
+  if (qobject_cast<QLabel*>(&w) != nullptr && a_riquadro(contenitore) && w.x() < margine_testo) {
+    ritocca(w, w.geometry().adjusted(margine_testo - w.x(), 0, 0, 0));  // its right edge stays where it was
+  }
 }
 
 // A check box or option button that the design makes a little too narrow for
@@ -163,9 +169,12 @@ void allarga_casella(const QWidget& contenitore, QWidget& w, const std::vector<Q
   ritocca(w, voluto);
 }
 
-// A column head gives way to a heading above it: its text stands at its
-// foot, so it begins below the heading.
-void sotto_al_titolo(QWidget& testa, const std::vector<QWidget*>& fratelli) {
+// A column head gives way to a heading above it and to its frame's edge
+// below it: its text stands at its foot, so it begins below the heading.
+void sotto_al_titolo(const QWidget& contenitore, QWidget& testa, const std::vector<QWidget*>& fratelli) {
+  if (a_riquadro(contenitore) && testa.geometry().bottom() > contenitore.height() - 3) {
+    ritocca(testa, testa.geometry().adjusted(0, 0, 0, contenitore.height() - 3 - testa.geometry().bottom()));
+  }
   for (QWidget* altro : fratelli) {
     auto* titolo = qobject_cast<QLabel*>(altro);
     if (titolo == nullptr || altro == &testa || dynamic_cast<testa_colonna*>(altro) != nullptr) continue;
@@ -230,7 +239,7 @@ void rifinisci(QWidget& contenitore, const std::vector<posto_widget>& figli) {
   for (QWidget* w : widget) {
     stacca_dal_bordo(contenitore, *w);
     allarga_casella(contenitore, *w, occupati);
-    if (dynamic_cast<testa_colonna*>(w) != nullptr) sotto_al_titolo(*w, widget);
+    if (dynamic_cast<testa_colonna*>(w) != nullptr) sotto_al_titolo(contenitore, *w, widget);
     if (e_cornice(*w)) ferma_prima_della_cornice(*w, widget);
   }
   contiene_i_figli(contenitore, figli);

@@ -185,6 +185,16 @@ QString testo_che_non_entra(const QWidget& w) {
   return {};
 }
 
+// A container that draws an edge line: a frame's own, or a border shape in it.
+bool con_bordo(const QWidget& w) {
+  if (qobject_cast<const QGroupBox*>(&w) != nullptr) return true;
+  if (w.metaObject() == &QFrame::staticMetaObject && static_cast<const QFrame&>(w).frameShape() != QFrame::NoFrame) return true;
+  for (QObject* figlio : w.children()) {
+    if (auto* forma = dynamic_cast<widget_forma*>(figlio); forma != nullptr && forma->tipo() == 0 && forma->width() > 0) return true;
+  }
+  return false;
+}
+
 // A widget that shows nothing (an empty label) or only draws a line or box
 // (a plain frame of no controls) may lie under others.
 bool mostra_qualcosa(const QWidget& w) {
@@ -252,9 +262,7 @@ QStringList difetti_di_collocazione(QWidget& finestra) {
     if (testo) visibili.push_back(w);
     // Inside its container; a text also off the edge line of a framed one.
     QWidget* genitore = w->parentWidget();
-    const int bordo = testo && (qobject_cast<QGroupBox*>(genitore) != nullptr ||
-                                (genitore->metaObject() == &QFrame::staticMetaObject &&
-                                 static_cast<QFrame*>(genitore)->frameShape() != QFrame::NoFrame));
+    const int bordo = testo && con_bordo(*genitore);
     // One wholly beyond its container is out of sight until the form widens.
     if (!genitore->rect().intersects(w->geometry())) continue;
     if (!genitore->rect().adjusted(bordo, 0, -bordo, -bordo).contains(w->geometry())) {
