@@ -216,7 +216,16 @@ void contiene_i_figli(QWidget& contenitore, const std::vector<posto_widget>& fig
     }
     basso = std::max(basso, f.w->y() + altezza);
   }
-  if (basso + 3 > contenitore.height()) ritocca(contenitore, QRect(contenitore.pos(), QSize(contenitore.width(), basso + 3)));
+  const int prima = contenitore.height();
+  if (basso + 3 <= prima) return;
+  ritocca(contenitore, QRect(contenitore.pos(), QSize(contenitore.width(), basso + 3)));
+  // The border shape that outlined the frame outlines it still.
+  for (const posto_widget& f : figli) {
+    auto* bordo = dynamic_cast<widget_forma*>(f.w);
+    if (bordo != nullptr && bordo->tipo() == 0 && bordo->geometry().bottom() >= prima - 3) {
+      ritocca(*bordo, bordo->geometry().adjusted(0, 0, 0, contenitore.height() - prima));
+    }
+  }
 }
 
 // A line or box drawn in a frame that the view made smaller ends at its edge.

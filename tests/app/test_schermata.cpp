@@ -48,8 +48,10 @@ QImage fotografa(QWidget& finestra) {
   return finestra.grab().toImage();
 }
 
+// Into the build folder, or where SCHEDINE_SCHERMATE says (scripts/schermate.sh).
 void salva(const QImage& immagine, int skin, const std::string& nome) {
-  QString cartella = QStringLiteral(SCHEDINE_SCHERMATE "/skin%1").arg(skin);
+  QString radice = qEnvironmentVariable("SCHEDINE_SCHERMATE", QStringLiteral(SCHEDINE_SCHERMATE));
+  QString cartella = radice + QStringLiteral("/skin%1").arg(skin);
   QDir().mkpath(cartella);
   QString percorso = cartella + QLatin1Char('/') + QString::fromStdString(nome) + QStringLiteral(".png");
   EXPECT_TRUE(immagine.save(percorso)) << percorso.toStdString();
@@ -127,6 +129,11 @@ class Schermata {
     ASSERT_NE(lista, nullptr);
     QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(lista->item(voce)).center());
   }
+  // The slip form a system opens, as Ok opens it.
+  void apri_sistema(int gioco, int voce) {
+    scegli_sistema(gioco, voce);
+    clic("Form1", "cmdok");
+  }
   void mostra_solo(const std::string& modulo) {
     binder.evento([&] {
       p.moduli("Form1").nascondi();
@@ -158,8 +165,7 @@ struct finestra_provata {
 };
 
 void apri_lotto(Schermata& s) {
-  s.scegli_sistema(1, 1);
-  s.clic("Form1", "cmdok");
+  s.apri_sistema(1, 1);
   s.clic("Form_sched_lotto_ambetto", "ChRuote", 0);
   s.clic("Form_sched_lotto_ambetto", "ChTerno", 8);
   s.clic("Form_sched_lotto_ambetto", "chAmbetto", 9);
@@ -222,15 +228,11 @@ const std::vector<finestra_provata>& finestre() {
          s.mostra_solo("Form_sched_10elotto");
        }},
       {"Form_sched_enalotto", "Form_sched_enalotto",
-       [](Schermata& s) {
-         s.scegli_sistema(4, 0);
-         s.clic("Form1", "cmdok");
-       }},
+       [](Schermata& s) { s.apri_sistema(4, 0); }},
       // The two-panel slip widens the form over the Superstar grid.
       {"Form_sched_enalotto_superstar", "Form_sched_enalotto",
        [](Schermata& s) {
-         s.scegli_sistema(4, 0);
-         s.clic("Form1", "cmdok");
+         s.apri_sistema(4, 0);
          s.clic("Form_sched_enalotto", "Option2");
        },
        [](Schermata& s, const QImage& i) {
@@ -238,14 +240,10 @@ const std::vector<finestra_provata>& finestre() {
          EXPECT_TRUE(s.widget("Form_sched_enalotto", "MSHFlexGrid1")->isVisible());
        }},
       {"Form_sched_wforlife5", "Form_sched_wforlife5",
-       [](Schermata& s) {
-         s.scegli_sistema(9, 0);
-         s.clic("Form1", "cmdok");
-       }},
+       [](Schermata& s) { s.apri_sistema(9, 0); }},
       {"Form_sched_wforlife", "Form_sched_wforlife",
        [](Schermata& s) {
-         s.scegli_sistema(9, 0);
-         s.clic("Form1", "cmdok");
+         s.apri_sistema(9, 0);
          s.clic("Form_sched_wforlife5", "Option2");
        }},
       calibrazione("Command7", "tar_lotto"),
