@@ -1,5 +1,7 @@
 #include "app/binder/aggiorna_widget.h"
 
+#include <QMargins>
+
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
@@ -47,6 +49,11 @@ void aggiorna_posizione(QWidget& w, const controllo& c) {
   }
   QRect voluta(pixel_da_twips(c.sinistra * scala), pixel_da_twips(c.alto * scala), pixel_da_twips(c.larghezza * scala),
                pixel_da_twips(c.altezza * scala));
+  // Only a move of the model moves the widget, keeping what the view
+  // fitted it by (a caption's width, a frame's contents).
+  if (w.property(posizione_modello).toRect() == voluta) return;
+  w.setProperty(posizione_modello, voluta);
+  voluta = voluta.marginsAdded(w.property(ritocco).value<QMargins>());
   if (w.geometry() != voluta) w.setGeometry(voluta);
 }
 
@@ -60,7 +67,9 @@ void aggiorna_comune(QWidget& w, const controllo& c) {
 }
 
 void imposta_testo_bottone(QAbstractButton& b, const std::string& caption) {
-  if (b.text() != testo(caption)) b.setText(testo(caption));
+  // A box the view shows as a bare tick box keeps its caption in the model only.
+  const QString voluto = b.property(solo_casella).toBool() ? QString() : testo(caption);
+  if (b.text() != voluto) b.setText(voluto);
 }
 
 void aggiorna_etichetta(QWidget& w, const etichetta& e) {
@@ -149,6 +158,10 @@ void aggiorna_griglia(QTableWidget& tabella, const griglia& g) {
       if (cella->text() != testo(g.testo_cella(r, c))) cella->setText(testo(g.testo_cella(r, c)));
       QBrush sfondo(colore_da_modello(g.colore_cella(r, c)));
       if (cella->background() != sfondo) cella->setBackground(sfondo);
+      // A cell paints its own background, so its text takes the ink that
+      // reads on it, whatever the skin's text colour.
+      QBrush inchiostro(sfondo.color().lightnessF() > 0.5 ? Qt::black : Qt::white);
+      if (cella->foreground() != inchiostro) cella->setForeground(inchiostro);
     }
   }
   for (int c = 0; c < g.colonne() && c < static_cast<int>(g.larghezze_colonne.size()); ++c) {

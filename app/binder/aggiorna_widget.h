@@ -22,6 +22,13 @@ void aggiorna_widget(QWidget& widget, const controllo& c);
 // true when the view places it itself and the model's position is not applied.
 inline constexpr const char* scala_contenitore = "twip_per_unita";
 inline constexpr const char* posizione_libera = "posizione_libera";
+// The design's place last applied to a widget, in pixels, and how far the
+// view has fitted the widget beyond it (QMargins), kept when the model moves it.
+inline constexpr const char* posizione_modello = "posizione_modello";
+inline constexpr const char* ritocco = "ritocco";
+// On a check box: true when its box has no room for a caption, so it shows
+// the tick box alone, as a narrow box on the form does.
+inline constexpr const char* solo_casella = "solo_casella";
 
 // A colour of the models (0x00BBGGRR, as the original platform writes colours).
 QColor colore_da_modello(int32_t colore);

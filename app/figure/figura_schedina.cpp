@@ -78,10 +78,16 @@ std::pair<int, int> casella_del_segno(const std::string& modulo, int i) {
   return {1, i + 1};
 }
 
-// The text of a box of a panel slip: the panels' numbers, and on the Win
-// for Life panels the number of the line, shown in both of its boxes.
+// Whether the slip has a box for a row of a group: a Win for Life panel
+// holds the numbers 1 to 20, two to a line, though its table runs on.
+bool sulla_schedina(const std::string& modulo, int gruppo, int riga) {
+  return !(modulo == "tar_wforlife5" && gruppo <= 5 && riga > 20);
+}
+
+// The text of a box of a panel slip: the number it stands for; on the
+// one-panel Win for Life slip only the panel's numbers are shown.
 std::string testo_casella(const std::string& modulo, int gruppo, int riga) {
-  if (modulo == "tar_wforlife5") return gruppo <= 5 ? std::to_string((riga - 1) / 2 + 1) : std::string();
+  if (modulo == "tar_wforlife5") return gruppo <= 5 ? std::to_string(riga) : std::string();
   if (modulo == "tar_wforlife") return gruppo == 1 ? std::to_string(riga) : std::string();
   if (modulo == "tar_enalotto2" && gruppo == 4) return {};
   return std::to_string(riga);
@@ -93,27 +99,11 @@ QColor inchiostro_di(const std::string& modulo) {
 }
 
 QPixmap figura_pannelli(tar_pannelli& t, QSize dimensione) {
-  const variante_pannelli& v = t.variante();
-  auto s = stato_di_fabbrica(v.fabbrica);
-  const double scala = t.twip_per_unita_anteprima / twip_per_pixel;
-  const int segni = v.disposti > 0 ? v.disposti : v.segni;
-  std::vector<riscontro> riscontri;
-  for (int i = 0; i < segni && i < static_cast<int>(t.pos_shape7.size()); ++i) {
-    const posizione& p = t.pos_shape7[static_cast<size_t>(i)];
-    const QPointF centro((p.sinistra + v.larghezza_segno / 2) * scala, (p.alto + v.altezza_segno / 2) * scala);
-    auto [gruppo, riga] = casella_del_segno(v.nome, i);
-    riscontri.push_back({centro, {s->tab_coord(gruppo, riga, 0), s->tab_coord(gruppo, riga, 1)}});
-  }
-  std::vector<casella_schedina> caselle;
-  for (int g = 1; g < tabella_coord::gruppi; ++g) {
-    for (int r = 1; r < tabella_coord::righe; ++r) {
-      QPointF mm(s->tab_coord(g, r, 0), s->tab_coord(g, r, 1));
-      // A row the slip has no box for holds nothing.
-      if (mm.x() != 0 || mm.y() != 0) caselle.push_back({mm, testo_casella(v.nome, g, r)});
-    }
-  }
-  const QSizeF segno(v.larghezza_segno * scala, v.altezza_segno * scala);
-  return disegna_schedina(dimensione, caselle, adatta_mappa(riscontri, v.frecce_ruotate), segno, inchiostro_di(v.nome));
+  disegno_schedina d = disegno_pannelli(t);
+  // The five-panel Win for Life picture shows its panels whole; the others
+  // are details of their slips, cut by the picture's edge.
+  const bool pannelli_interi = t.variante().nome == "tar_wforlife5";
+  return disegna_schedina(dimensione, d.caselle, d.mappa, d.segno, inchiostro_di(t.variante().nome), pannelli_interi);
 }
 
 }  // namespace
@@ -140,23 +130,24 @@ mappa_figura adatta_mappa(const std::vector<riscontro>& riscontri, bool ruotata)
 }
 
 QPixmap disegna_schedina(QSize dimensione, const std::vector<casella_schedina>& caselle, const mappa_figura& mappa,
-                         QSizeF casella_pixel, QColor inchiostro) {
+                         QSizeF casella_pixel, QColor inchiostro, bool solo_intere) {
   QPixmap figura(dimensione.expandedTo(QSize(1, 1)));
   figura.fill(QColor(0xfd, 0xfa, 0xf0));  // the slip's paper
   QPainter pittore(&figura);
   pittore.setRenderHint(QPainter::Antialiasing);
   QColor tinta = inchiostro;
   tinta.setAlpha(40);
-  // The box a little larger than the mark, so that a mark in place sits inside it.
-  const QSizeF lato = casella_pixel + QSizeF(4, 4);
+  const QSizeF lato = lato_casella(casella_pixel);
   QFont font(QStringLiteral("Arial"));
   font.setPixelSize(std::max(6, static_cast<int>(std::min(lato.height() * 0.55, lato.width() * 0.5))));
   pittore.setFont(font);
-  const QRectF visibile = QRectF(figura.rect()).adjusted(-lato.width(), -lato.height(), lato.width(), lato.height());
+  const QRectF carta(figura.rect());
+  const QRectF visibile = carta.adjusted(-lato.width(), -lato.height(), lato.width(), lato.height());
   for (const casella_schedina& c : caselle) {
     const QPointF centro = mappa.in_pixel(c.mm);
     if (!visibile.contains(centro)) continue;
     const QRectF box(centro.x() - lato.width() / 2, centro.y() - lato.height() / 2, lato.width(), lato.height());
+    if (solo_intere && !carta.contains(box)) continue;
     pittore.setPen(QPen(inchiostro, 1));
     pittore.setBrush(tinta);
     pittore.drawRoundedRect(box, 2, 2);
@@ -169,6 +160,31 @@ QPixmap disegna_schedina(QSize dimensione, const std::vector<casella_schedina>& 
   pittore.setBrush(Qt::NoBrush);
   pittore.drawRect(QRectF(figura.rect()).adjusted(0.5, 0.5, -0.5, -0.5));
   return figura;
+}
+
+disegno_schedina disegno_pannelli(tar_pannelli& t) {
+  const variante_pannelli& v = t.variante();
+  auto s = stato_di_fabbrica(v.fabbrica);
+  const double scala = t.twip_per_unita_anteprima / twip_per_pixel;
+  const int segni = v.disposti > 0 ? v.disposti : v.segni;
+  std::vector<riscontro> riscontri;
+  for (int i = 0; i < segni && i < static_cast<int>(t.pos_shape7.size()); ++i) {
+    const posizione& p = t.pos_shape7[static_cast<size_t>(i)];
+    const QPointF centro((p.sinistra + v.larghezza_segno / 2) * scala, (p.alto + v.altezza_segno / 2) * scala);
+    auto [gruppo, riga] = casella_del_segno(v.nome, i);
+    riscontri.push_back({centro, {s->tab_coord(gruppo, riga, 0), s->tab_coord(gruppo, riga, 1)}});
+  }
+  disegno_schedina d;
+  for (int g = 1; g < tabella_coord::gruppi; ++g) {
+    for (int r = 1; r < tabella_coord::righe; ++r) {
+      QPointF mm(s->tab_coord(g, r, 0), s->tab_coord(g, r, 1));
+      // A row the slip has no box for holds nothing.
+      if ((mm.x() != 0 || mm.y() != 0) && sulla_schedina(v.nome, g, r)) d.caselle.push_back({mm, testo_casella(v.nome, g, r)});
+    }
+  }
+  d.segno = QSizeF(v.larghezza_segno * scala, v.altezza_segno * scala);
+  d.mappa = adatta_mappa(riscontri, v.frecce_ruotate);
+  return d;
 }
 
 QPixmap figura_taratura(modulo& m, QSize dimensione) {

@@ -16,6 +16,7 @@
 namespace schedine {
 
 class modulo;
+class tar_pannelli;
 
 // A box of a slip: its centre in millimetres and the text printed in it.
 struct casella_schedina {
@@ -43,9 +44,23 @@ struct mappa_figura {
 mappa_figura adatta_mappa(const std::vector<riscontro>& riscontri, bool ruotata);
 
 // The picture: the boxes drawn through the map, each of the given size in
-// pixels, in the slip's ink, on paper.
+// pixels, in the slip's ink, on paper. A detail of a slip shows the boxes
+// its edges cut; a whole panel shows only whole boxes.
 QPixmap disegna_schedina(QSize dimensione, const std::vector<casella_schedina>& caselle, const mappa_figura& mappa,
-                         QSizeF casella_pixel, QColor inchiostro);
+                         QSizeF casella_pixel, QColor inchiostro, bool solo_intere = false);
+
+// What the picture of a panel calibration form shows: the slip's boxes
+// with their texts, the map onto the picture, and the size of a mark.
+struct disegno_schedina {
+  std::vector<casella_schedina> caselle;
+  mappa_figura mappa;
+  QSizeF segno;
+};
+disegno_schedina disegno_pannelli(tar_pannelli& t);
+
+// The box drawn for a mark of the given size: a little larger, so that a
+// mark in place sits inside it.
+inline QSizeF lato_casella(QSizeF segno) { return segno + QSizeF(4, 4); }
 
 // The slip picture of a calibration form (tar_lotto's Image1, the Image2 of
 // the panel forms), at the given size; null for any other form.

@@ -20,8 +20,6 @@ bool di_taratura_pannelli(modulo& m) { return dynamic_cast<tar_pannelli*>(&m) !=
 QPixmap figura_controllo(modulo& m, const controllo& c, QSize dimensione) {
   const auto* picture = dynamic_cast<const immagine*>(&c);
   if (picture == nullptr) return {};
-  // A picture captioned with an amount is the head of its column.
-  if (!picture->caption.empty()) return testa_colonna(QString::fromStdString(picture->caption), dimensione);
   const std::string& nome = c.nome();
   if (dynamic_cast<tar_lotto*>(&m) != nullptr && nome == "Image1") return figura_taratura(m, dimensione);
   if (di_taratura_pannelli(m)) {
@@ -45,8 +43,9 @@ QIcon icona_pulsante(modulo& m, const controllo& c, QSize dimensione) {
 }
 
 QSize dimensione_naturale(modulo& m, const controllo& c) {
-  // The 10eLotto panel picture is a 120 by 69 picture.
-  if (di_lotto(m) && c.nome() == "Image2") return {120, 69};
+  // The 10eLotto panel picture, sized to stand whole in its panel above the
+  // options frame that the design lays over the panel's foot.
+  if (di_lotto(m) && c.nome() == "Image2") return {104, 60};
   return {};
 }
 

@@ -34,22 +34,6 @@ qreal adatta(const QString& testo, qreal larghezza, qreal massimo, bool grassett
 
 }  // namespace
 
-QPixmap testa_colonna(const QString& testo, QSize dimensione) {
-  QPixmap figura = trasparente(dimensione);
-  QPainter pittore(&figura);
-  pittore.setRenderHint(QPainter::TextAntialiasing);
-  // Turned a quarter, the picture's height is the text's length and its width the text's height.
-  const qreal lunghezza = dimensione.height() - 2;
-  const qreal pixel = std::min<qreal>(adatta(testo, lunghezza, 12, true), dimensione.width() - 3);
-  pittore.setFont(carattere(pixel, true));
-  pittore.setPen(QColor(0x16, 0x34, 0x5c));
-  pittore.translate(0, dimensione.height());
-  pittore.rotate(-90);
-  // Now x runs up the picture from its foot and y across it.
-  pittore.drawText(QRectF(1, 0, lunghezza, dimensione.width()), Qt::AlignLeft | Qt::AlignVCenter, testo);
-  return figura;
-}
-
 QIcon freccia(verso direzione, QSize dimensione) {
   QPixmap figura = trasparente(dimensione);
   QPainter pittore(&figura);

@@ -1,6 +1,5 @@
 #pragma once
-// The small pictures of the forms, drawn by the program: the amount heads
-// of the stake columns, the arrows of the calibration crosses, the 10eLotto
+// The small pictures of the forms, drawn by the program: the arrows of the calibration crosses, the 10eLotto
 // and Win for Life marks and the calibration icon.
 
 #include <QIcon>
@@ -11,10 +10,6 @@
 namespace schedine {
 
 enum class verso;
-
-// A column head: its text turned a quarter (read from the bottom up), at
-// the foot of a transparent picture, so that a heading may run above it.
-QPixmap testa_colonna(const QString& testo, QSize dimensione);
 
 // An arrow pointing the given way, for a button of that size.
 QIcon freccia(verso direzione, QSize dimensione);

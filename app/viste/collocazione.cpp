@@ -1,15 +1,19 @@
 #include "app/viste/collocazione.h"
 
 #include <QFontInfo>
+#include <QMargins>
+#include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QVariant>
 #include <algorithm>
 
 #include "app/binder/aggiorna_widget.h"
 #include "app/binder/nomi_widget.h"
 #include "app/binder/widget_forma.h"
+#include "app/figure/testa_colonna.h"
 #include "controls/modulo.h"
 #include "forms/enalotto_wforlife/modulo_pannelli.h"
 #include "forms/lotto/modulo_lotto.h"
@@ -19,6 +23,8 @@ namespace schedine {
 namespace {
 
 constexpr int margine = 6;
+// Where the row heads of a frame begin (60 twips).
+constexpr int margine_testo = 4;
 // Properties of a label: the design gives it no size; the text it was last fitted to.
 constexpr const char* misura_libera = "misura_libera";
 constexpr const char* testo_adattato = "testo_adattato";
@@ -121,6 +127,134 @@ bool entra(const QLabel& etichetta) {
   return etichetta.sizeHint().width() <= etichetta.width();
 }
 
+// A widget fitted by the view: the change from the design's place is kept
+// for the binder, which applies it again wherever the model moves it.
+void ritocca(QWidget& w, QRect nuova) {
+  QRect progetto = w.property(posizione_modello).toRect();
+  if (progetto.isValid()) {
+    w.setProperty(ritocco, QVariant::fromValue(QMargins(progetto.left() - nuova.left(), progetto.top() - nuova.top(),
+                                                         nuova.right() - progetto.right(), nuova.bottom() - progetto.bottom())));
+  }
+  w.setGeometry(nuova);
+}
+
+// A frame that draws an edge: its own, or a border shape inside it.
+bool a_riquadro(const QWidget& w) {
+  if (qobject_cast<const QGroupBox*>(&w) != nullptr) return true;
+  for (QObject* figlio : w.children()) {
+    if (auto* bordo = dynamic_cast<widget_forma*>(figlio); bordo != nullptr && bordo->tipo() == 0) return true;
+  }
+  auto* frame = qobject_cast<const QFrame*>(&w);
+  return frame != nullptr && frame->metaObject() == &QFrame::staticMetaObject && frame->frameShape() != QFrame::NoFrame;
+}
+
+// A text the design puts on its frame's very edge is moved in to where the
+// frame's other row heads begin, clear of the edge line.
+void stacca_dal_bordo(const QWidget& contenitore, QWidget& w) {
+  if (qobject_cast<QLabel*>(&w) != nullptr && a_riquadro(contenitore) && w.x() < margine_testo) {
+    ritocca(w, w.geometry().adjusted(margine_testo - w.x(), 0, 0, 0));  // its right edge stays where it was
+  }
+}
+
+// A check box or option button that the design makes a little too narrow for
+// its caption takes its natural width where nothing stands in the way.
+void allarga_casella(const QWidget& contenitore, QWidget& w, const std::vector<QRect>& occupati) {
+  auto* bottone = qobject_cast<QAbstractButton*>(&w);
+  if (bottone == nullptr || qobject_cast<QPushButton*>(&w) != nullptr || bottone->text().isEmpty()) return;
+  QRect voluto(w.pos(), QSize(std::max(w.width(), w.sizeHint().width()), w.height()));
+  if (voluto.size() == w.size() || voluto.right() >= contenitore.width() - 1) return;
+  for (const QRect& r : occupati) {
+    if (r != w.geometry() && r.intersects(voluto)) return;
+  }
+  ritocca(w, voluto);
+}
+
+// A column head gives way to a heading above it and to its frame's edge
+// below it: its text stands at its foot, so it begins below the heading.
+void sotto_al_titolo(const QWidget& contenitore, QWidget& testa, const std::vector<QWidget*>& fratelli) {
+  if (a_riquadro(contenitore) && testa.geometry().bottom() > contenitore.height() - 3) {
+    ritocca(testa, testa.geometry().adjusted(0, 0, 0, contenitore.height() - 3 - testa.geometry().bottom()));
+  }
+  for (QWidget* altro : fratelli) {
+    auto* titolo = qobject_cast<QLabel*>(altro);
+    if (titolo == nullptr || altro == &testa || dynamic_cast<testa_colonna*>(altro) != nullptr) continue;
+    QRect t = altro->geometry(), r = testa.geometry();
+    if (!t.intersects(r) || t.top() > r.top() + r.height() / 2) continue;
+    ritocca(testa, r.adjusted(0, t.bottom() + 1 - r.top(), 0, 0));
+  }
+}
+
+bool e_cornice(const QWidget& w) {
+  return qobject_cast<const QGroupBox*>(&w) != nullptr ||
+         (qobject_cast<const QFrame*>(&w) != nullptr && qobject_cast<const QLabel*>(&w) == nullptr);
+}
+
+// A frame that runs on into a frame beside or below it ends where that one begins: on
+// its row, before it; above it, over it.
+void ferma_prima_della_cornice(QWidget& cornice, const std::vector<QWidget*>& fratelli) {
+  for (QWidget* altra : fratelli) {
+    QRect a = cornice.geometry(), b = altra->geometry();
+    if (altra == &cornice || altra->isHidden() || !e_cornice(*altra) || !a.intersects(b) || a.contains(b) || b.contains(a)) continue;
+    if (b.left() > a.left() && b.top() <= a.top() + a.height() / 2) {
+      ritocca(cornice, QRect(a.topLeft(), QSize(b.left() - 2 - a.left(), a.height())));
+    } else if (b.top() > a.top()) {
+      ritocca(cornice, QRect(a.topLeft(), QSize(a.width(), b.top() - 2 - a.top())));
+    }
+  }
+}
+
+// A frame grows to hold the controls the design puts inside it.
+void contiene_i_figli(QWidget& contenitore, const std::vector<posto_widget>& figli) {
+  if (!e_cornice(contenitore) || contenitore.isWindow()) return;
+  int basso = 0;
+  for (const posto_widget& f : figli) {
+    if (f.w->isHidden() || f.w->height() <= 0 || dynamic_cast<widget_forma*>(f.w) != nullptr) continue;
+    // A text's box may run on below its last line: what counts is the text.
+    int altezza = f.w->height();
+    if (auto* l = qobject_cast<QLabel*>(f.w); l != nullptr && l->pixmap().isNull()) {
+      altezza = std::min(altezza, l->wordWrap() ? l->heightForWidth(l->width()) : l->sizeHint().height());
+    }
+    basso = std::max(basso, f.w->y() + altezza);
+  }
+  const int prima = contenitore.height();
+  if (basso + 3 <= prima) return;
+  ritocca(contenitore, QRect(contenitore.pos(), QSize(contenitore.width(), basso + 3)));
+  // The border shape that outlined the frame outlines it still.
+  for (const posto_widget& f : figli) {
+    auto* bordo = dynamic_cast<widget_forma*>(f.w);
+    if (bordo != nullptr && bordo->tipo() == 0 && bordo->geometry().bottom() >= prima - 3) {
+      ritocca(*bordo, bordo->geometry().adjusted(0, 0, 0, contenitore.height() - prima));
+    }
+  }
+}
+
+// A line or box drawn in a frame that the view made smaller ends at its edge.
+void forme_nella_cornice(const QWidget& contenitore, const std::vector<posto_widget>& figli) {
+  const QRect dentro = contenitore.rect();
+  for (const posto_widget& f : figli) {
+    if (dynamic_cast<widget_forma*>(f.w) != nullptr && f.w->width() > 0 && !dentro.contains(f.w->geometry())) {
+      ritocca(*f.w, f.w->geometry().intersected(dentro));
+    }
+  }
+}
+
+void rifinisci(QWidget& contenitore, const std::vector<posto_widget>& figli) {
+  std::vector<QWidget*> widget;
+  std::vector<QRect> occupati;
+  for (const posto_widget& f : figli) {
+    widget.push_back(f.w);
+    if (!f.w->isHidden()) occupati.push_back(f.w->geometry());
+  }
+  for (QWidget* w : widget) {
+    stacca_dal_bordo(contenitore, *w);
+    allarga_casella(contenitore, *w, occupati);
+    if (dynamic_cast<testa_colonna*>(w) != nullptr) sotto_al_titolo(contenitore, *w, widget);
+    if (e_cornice(*w)) ferma_prima_della_cornice(*w, widget);
+  }
+  contiene_i_figli(contenitore, figli);
+  if (!contenitore.isWindow()) forme_nella_cornice(contenitore, figli);
+}
+
 }  // namespace
 
 void adatta_etichetta(QLabel& etichetta) {
@@ -187,6 +321,7 @@ void colloca_contenuto(QWidget& contenitore, const std::vector<posto_widget>& fi
     }
   }
   scorri(contenitore, liberi, occupati);
+  rifinisci(contenitore, figli);
   for (const posto_widget& f : figli) {
     if (auto* etichetta = qobject_cast<QLabel*>(f.w)) adatta_etichetta(*etichetta);
   }

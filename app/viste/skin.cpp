@@ -1,5 +1,6 @@
 #include "app/viste/skin.h"
 
+#include <QApplication>
 #include <QRegularExpression>
 #include <QVariant>
 
@@ -32,6 +33,16 @@ void marca(QWidget* widget, bool skin_del_genitore, const QStringList& esenti) {
   bool di_controllo = !nome.isEmpty() && !nome.startsWith(QLatin1String("qt_"));
   bool skin = di_controllo ? !esenti.contains(nome) : skin_del_genitore;
   widget->setProperty("skin", skin);
+  // An exempted control keeps the plain look whole: its own background and
+  // the desktop's colours, not the skin's background showing through under
+  // text of the plain colour.
+  if (di_controllo && !skin) {
+    QPalette semplice = QApplication::palette();
+    // The desktop's selection blue is too light under white text.
+    semplice.setColor(QPalette::Highlight, semplice.color(QPalette::Highlight).darker(150));
+    widget->setPalette(semplice);
+    widget->setAutoFillBackground(true);
+  }
   for (QObject* figlio : widget->children()) {
     if (auto* w = qobject_cast<QWidget*>(figlio); w != nullptr && !w->isWindow()) marca(w, skin, esenti);
   }

@@ -22,6 +22,7 @@
 #include "app/binder/finestra_modulo.h"
 #include "app/binder/widget_forma.h"
 #include "app/figure/figure.h"
+#include "app/figure/testa_colonna.h"
 #include "app/viste/collocazione.h"
 #include "app/viste/comandi_stampa.h"
 #include "app/viste/ordine_tab.h"
@@ -39,6 +40,8 @@ namespace {
 constexpr float riga_e_mezza = 400;
 // The rows an open drop-down list shows at a time.
 constexpr int righe_tendina = 16;
+// A check box narrower than this, in pixels, has room for its tick box only.
+constexpr int casella_nuda = 20;
 
 QSize misura_di_progetto(const controllo& c) { return {pixel_da_twips(c.larghezza), pixel_da_twips(c.altezza)}; }
 
@@ -65,6 +68,13 @@ QWidget* crea_immagine(QWidget* genitore, modulo& m, const immagine& c, bool con
     auto* box = crea<QFrame>(genitore, c.nome(), c.indice());
     box->setFrameShape(QFrame::NoFrame);
     return box;
+  }
+  // A picture captioned with an amount is the head of its column.
+  if (!c.caption.empty()) {
+    auto* testa = crea<testa_colonna>(genitore, c.nome(), c.indice());
+    testa->setText(QString::fromStdString(c.caption));
+    testa->setStyleSheet(QStringLiteral("background: transparent;"));
+    return testa;
   }
   auto* figura = crea<QLabel>(genitore, c.nome(), c.indice());
   QSize misura = dimensione_naturale(m, c);
@@ -112,7 +122,11 @@ QWidget* crea_widget(QWidget* genitore, modulo& m, const controllo& c, const std
     etichetta_w->setWordWrap(c.larghezza > 0 && c.altezza >= riga_e_mezza);
     return etichetta_w;
   }
-  if (dynamic_cast<const casella_controllo*>(&c) != nullptr) return crea<QCheckBox>(genitore, n, i);
+  if (dynamic_cast<const casella_controllo*>(&c) != nullptr) {
+    auto* casella = crea<QCheckBox>(genitore, n, i);
+    casella->setProperty(solo_casella, c.larghezza > 0 && pixel_da_twips(c.larghezza) < casella_nuda);
+    return casella;
+  }
   if (dynamic_cast<const pulsante_opzione*>(&c) != nullptr) return crea<QRadioButton>(genitore, n, i);
   if (dynamic_cast<const casella_testo*>(&c) != nullptr) return crea<QLineEdit>(genitore, n, i);
   if (auto* e = dynamic_cast<const casella_elenco*>(&c)) {

@@ -18,10 +18,13 @@
 #include <QTableWidget>
 #include <QTest>
 #include <algorithm>
+#include <map>
 
 #include "app/binder/widget_forma.h"
+#include "app/figure/figura_schedina.h"
 #include "controls/modulo.h"
 #include "forms/calibration/tar_lotto.h"
+#include "forms/calibration/tar_pannelli.h"
 #include "printing/giornale.h"
 #include "tests/app/banco_app.h"
 
@@ -107,7 +110,7 @@ TEST_F(Viste, LottoStakesAndWheelsMakeTheTotalAndThePrint) {
   EXPECT_EQ(importo->text(), "0,00");
   // The column heads show their amounts: column 8 is 1 euro, column 9 fifty cents.
   EXPECT_EQ(m(lotto).c<immagine>("Image1", 9).caption, "0,50");
-  EXPECT_FALSE(w<QLabel>(lotto, "Image1", 9)->pixmap().isNull());
+  EXPECT_EQ(w<QLabel>(lotto, "Image1", 9)->text(), "0,50");
 
   clic(w<QCheckBox>(lotto, "ChTerno", 8));
   EXPECT_EQ(importo->text(), "0,00") << "no wheel, no price";
@@ -228,6 +231,24 @@ TEST_P(FiguraTaratura, MarksStartOnTheBoxesOfTheirSlip) {
   int bianchi = 0;
   for (int x = 0; x < immagine.width(); ++x) bianchi += immagine.pixelColor(x, immagine.height() / 2) == carta;
   EXPECT_GT(bianchi, 0) << "paper between the boxes";
+}
+
+// The five-panel Win for Life picture: each panel shows its numbers 1 to 20,
+// one to a box, whole inside the picture, and no line beyond them.
+TEST_F(Viste, FivePanelWinForLifePictureShowsEachPanelsNumbersWhole) {
+  clic(w<QPushButton>("Form1", "Command6"));
+  auto& t = dynamic_cast<tar_pannelli&>(m("tar_wforlife5"));
+  const disegno_schedina d = disegno_pannelli(t);
+  const QRectF figura(QPointF(0, 0), QSizeF(w("tar_wforlife5", "Image2")->size()));
+  const QSizeF lato = lato_casella(d.segno);
+  std::map<std::string, int> volte;
+  for (const casella_schedina& c : d.caselle) {
+    const QPointF centro = d.mappa.in_pixel(c.mm);
+    const QRectF box(centro - QPointF(lato.width() / 2, lato.height() / 2), lato);
+    if (figura.contains(box) && !c.testo.empty()) ++volte[c.testo];
+  }
+  ASSERT_EQ(volte.size(), 20u);
+  for (int n = 1; n <= 20; ++n) EXPECT_EQ(volte[std::to_string(n)], 5) << n;
 }
 
 INSTANTIATE_TEST_SUITE_P(Tutte, FiguraTaratura,
