@@ -165,6 +165,10 @@ void verifica_carta(const fs::path& pdf, const prova::lavoro_atteso& lavoro) {
 // ------------------------------------------------------------ the run
 
 class StampaSuCups : public ::testing::Test {
+ public:
+  // How the job reaches the printer: at once, or recorded and printed from the preview.
+  enum class via { diretta, anteprima };
+
  protected:
   void SetUp() override {
     const char* uscita = std::getenv("SCHEDINE_PDF_STAMPANTE");
@@ -180,10 +184,12 @@ class StampaSuCups : public ::testing::Test {
 
   // Runs the user's actions on the program in the folder, then waits for the
   // one job they print to come out of the queue, and checks it.
-  void stampa_e_verifica(const std::string& azioni) {
+  void stampa_e_verifica(const std::string& azioni, via strada = via::diretta) {
     const auto prima = prova::pdf_presenti(cartella_pdf_);
+    if (strada == via::anteprima) piattaforma_.registra_come_anteprima();
     esegui(azioni);
     if (HasFatalFailure()) return;
+    if (strada == via::anteprima) piattaforma_.stampa_registrato();
     ASSERT_EQ(annotazioni_.lavori().size(), 1u) << "the actions must print one job\n" << giornale_testo_.str();
     fs::path pdf;
     try {
@@ -230,10 +236,7 @@ size_t conta_segni(const prova::lavoro_atteso& lavoro) {
 
 // A conditioned cinquina system of three columns, one slip each, reaching
 // the corners of the number grid; a stake, an extra bet and two wheels.
-TEST_F(StampaSuCups, SistemaDelLottoInTreSchede) {
-  cartella_.scrivi("cinquina/lprovanud.txt", "\"prova\",\"cups\",3\r\n");
-  cartella_.scrivi("cinquina/lprovasyd.txt", "1,10,45,81,90\r\n2,19,37,64,83\r\n5,6,55,56,88\r\n");
-  stampa_e_verifica(R"(
+constexpr const char* cinquina_in_tre_schede = R"(
 start
 click Form1.Option1(3)
 select Form1.List1 0
@@ -244,12 +247,25 @@ click Form_sched_lotto_ambetto.ChEstratto(7)
 click Form_sched_lotto_ambetto.ChRuote(0)
 click Form_sched_lotto_ambetto.ChRuote(8)
 click Form_sched_lotto_ambetto.cmdstampa(1)
-)");
+)";
+
+class StampaDelLotto : public StampaSuCups, public ::testing::WithParamInterface<StampaSuCups::via> {};
+
+TEST_P(StampaDelLotto, SistemaInTreSchede) {
+  cartella_.scrivi("cinquina/lprovanud.txt", "\"prova\",\"cups\",3\r\n");
+  cartella_.scrivi("cinquina/lprovasyd.txt", "1,10,45,81,90\r\n2,19,37,64,83\r\n5,6,55,56,88\r\n");
+  stampa_e_verifica(cinquina_in_tre_schede, GetParam());
   if (HasFatalFailure()) return;
   ASSERT_EQ(lavoro().size(), 3u);
   // Five numbers a slip, plus the slip's own marks.
   for (const auto& pagina : lavoro()) EXPECT_GT(pagina.segni.size(), 5u);
 }
+
+// Printed at once, and from the preview: the same paper either way.
+INSTANTIATE_TEST_SUITE_P(Strade, StampaDelLotto, ::testing::Values(StampaSuCups::via::diretta, StampaSuCups::via::anteprima),
+                         [](const auto& info) {
+                           return info.param == StampaSuCups::via::diretta ? std::string("Diretta") : "DallAnteprima";
+                         });
 
 // A conditioned SuperEnalotto system of ten columns on the five-panel slip:
 // two slips of five panels.
