@@ -35,7 +35,7 @@ stato=0
 export LSAN_OPTIONS="suppressions=$PWD/tests/app/lsan_xcb.supp:print_suppressions=0"
 SCHEDINE_SCHERMATE="$uscita" QT_QPA_PLATFORM=xcb \
   xvfb-run -a -s "-screen 0 1280x1024x24" \
-  "$costruzione/tests/app/test_schermata" --gtest_filter='*_skin1:*_skin4' > "$uscita/esito.txt" 2>&1 || stato=$?
+  "$costruzione/tests/app/test_schermata" --gtest_filter='*_skin1:*_skin4:Anteprima.*' > "$uscita/esito.txt" 2>&1 || stato=$?
 echo "Schermate in: $uscita/skin1 e $uscita/skin4 ($(ls "$uscita"/skin1/*.png "$uscita"/skin4/*.png | wc -l) finestre)"
 
 if [ "$readme" = 1 ]; then
@@ -45,6 +45,7 @@ if [ "$readme" = 1 ]; then
     cp "$uscita/skin1/$finestra.png" docs/schermate/
   done
   cp "$uscita/skin4/Form_sched_lotto_ambetto.png" docs/schermate/Form_sched_lotto_ambetto_notte.png
+  cp "$uscita/skin1/anteprima_lotto.png" docs/schermate/
   echo "Figure del README aggiornate in docs/schermate/"
 fi
 
