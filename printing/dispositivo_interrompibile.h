@@ -8,11 +8,11 @@
 
 #include <functional>
 
-#include "printing/dispositivo_stampa.h"
+#include "printing/dispositivo_inoltro.h"
 
 namespace schedine {
 
-class dispositivo_interrompibile : public dispositivo_stampa {
+class dispositivo_interrompibile : public dispositivo_inoltro {
  public:
   // The device that gets the operations; asked at each operation, so it may change between runs.
   explicit dispositivo_interrompibile(std::function<dispositivo_stampa&()> destinazione);
@@ -27,30 +27,14 @@ class dispositivo_interrompibile : public dispositivo_stampa {
   // The run is over: back to handing everything on.
   void fine_corsa();
 
-  void imposta_scala_mm() override;
-  void imposta_modo_pagina(int modo) override;
-  void imposta_penna(int stile, int spessore) override;
-  void imposta_riempimento(int stile) override;
-  void imposta_riempimento(int stile, int32_t colore) override;
-  void disegna_punto_zero() override;
-  void disegna_cerchio(float x, float y, float raggio) override;
-  void disegna_rettangolo(float x1, float y1, float x2, float y2) override;
-  void imposta_font_nome(const std::string& nome) override;
-  void imposta_font_dimensione(float punti) override;
-  void imposta_font_grassetto(bool grassetto) override;
-  void posiziona_testo(float x, float y) override;
-  void stampa_testo(const std::string& testo) override;
   int numero_pagina() override;
   void nuova_pagina() override;
-  void chiudi_stampa() override;
+
+ protected:
+  void inoltra(const operazione& o) override;
 
  private:
   enum class fase { normale, chiesta, scartando };
-
-  template <class Operazione>
-  void inoltra(Operazione&& operazione) {
-    if (fase_ != fase::scartando) operazione(destinazione_());
-  }
 
   std::function<dispositivo_stampa&()> destinazione_;
   fase fase_ = fase::normale;
