@@ -174,17 +174,8 @@ cifre=$risultati/cifre.md
   echo "</details>"
 } > "$cifre"
 
-inizio='<!-- scripts/bench.sh: inizio -->'
-fine='<!-- scripts/bench.sh: fine -->'
-if [ ! -f "$esiti" ] || ! grep -qF "$inizio" "$esiti"; then
-  printf '# Benchmark results\n\n%s\n%s\n' "$inizio" "$fine" >> "$esiti"
-fi
-awk -v inizio="$inizio" -v fine="$fine" -v cifre="$cifre" '
-  $0 == inizio { print; while ((getline riga < cifre) > 0) print riga; salta = 1; next }
-  $0 == fine { salta = 0 }
-  !salta { print }
-' "$esiti" > "$esiti.nuovo"
-mv "$esiti.nuovo" "$esiti"
+scripts/sostituisci_sezione.sh "$esiti" '<!-- scripts/bench.sh: inizio -->' '<!-- scripts/bench.sh: fine -->' \
+  "$cifre" '# Benchmark results\n\n'
 cat "$cifre"
 
 # The print preview, in a section of its own.

@@ -42,15 +42,6 @@ cifre=$(mktemp)
   echo "(The Lotto slips carry 5 numbers and the text line, so the text weighs on each mark; a SuperEnalotto slip carries 30 marks.)"
 } > "$cifre"
 
-inizio='<!-- bench_anteprima: inizio -->'
-fine='<!-- bench_anteprima: fine -->'
-if ! grep -qF "$inizio" "$esiti"; then
-  printf '\n## Print preview\n\n%s\n%s\n' "$inizio" "$fine" >> "$esiti"
-fi
-awk -v inizio="$inizio" -v fine="$fine" -v cifre="$cifre" '
-  $0 == inizio { print; while ((getline riga < cifre) > 0) print riga; salta = 1; next }
-  $0 == fine { salta = 0 }
-  !salta { print }
-' "$esiti" > "$esiti.nuovo"
-mv "$esiti.nuovo" "$esiti"
+"$(dirname "$0")/sostituisci_sezione.sh" "$esiti" '<!-- bench_anteprima: inizio -->' '<!-- bench_anteprima: fine -->' \
+  "$cifre" '\n## Print preview\n\n'
 rm -f "$cifre"
