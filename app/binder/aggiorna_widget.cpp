@@ -1,7 +1,5 @@
 #include "app/binder/aggiorna_widget.h"
 
-#include <QMargins>
-
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,6 +8,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMargins>
 #include <QProgressBar>
 #include <QTableWidget>
 #include <QVariant>
