@@ -11,6 +11,9 @@ std::string percorso_tar(const stato& s, const char* nome) { return nel_programm
 template <class Lettura>
 void lettura_tar::esegui(Lettura&& lettura) {
   if (tollerante_) {
+    // Past the end every read fails alike and changes nothing: a short file
+    // leaves the rest of the tables as they were without a failure per field.
+    if (lettore_.fine_file()) return;
     passa_oltre(lettura);
   } else {
     lettura();

@@ -1,11 +1,17 @@
 #include "core/errore_runtime.h"
 
+#include <cerrno>
+#include <filesystem>
+#include <new>
+#include <system_error>
+
 namespace schedine {
 
 const char* testo_errore(int numero) {
   switch (numero) {
     case codice::chiamata_non_valida: return "Chiamata di routine o argomento non validi";
     case codice::overflow: return "Overflow";
+    case codice::memoria_esaurita: return "Memoria esaurita";
     case codice::divisione_per_zero: return "Divisione per zero";
     case codice::indice_fuori_intervallo: return "Indice non compreso nell'intervallo";
     case codice::tipo_non_corrispondente: return "Tipo non corrispondente";
@@ -32,5 +38,33 @@ static std::string componi(int numero, const std::string& dettaglio) {
 
 errore_runtime::errore_runtime(int numero, std::string dettaglio)
     : std::runtime_error(componi(numero, dettaglio)), numero_(numero), dettaglio_(std::move(dettaglio)) {}
+
+int codice_da_errno(int numero_errno) {
+  switch (numero_errno) {
+    case ENOENT: return codice::percorso_non_trovato;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: return codice::disco_pieno;  // no room for the file to grow, whatever the limit
+    case EACCES:
+    case EPERM:
+    case EROFS: return codice::autorizzazione_negata;
+    case EISDIR:
+    case ENOTDIR:  // a file stands where a folder is needed
+    case EEXIST: return codice::errore_accesso;
+    default: return codice::errore_io;
+  }
+}
+
+std::string rapporto_guasto(const std::exception& e) {
+  if (const auto* runtime = dynamic_cast<const errore_runtime*>(&e)) return runtime->rapporto();
+  if (const auto* file = dynamic_cast<const std::filesystem::filesystem_error*>(&e)) {
+    return errore_runtime(codice_da_errno(file->code().value()), file->path1().string()).rapporto();
+  }
+  if (const auto* sistema = dynamic_cast<const std::system_error*>(&e)) {
+    return errore_runtime(codice_da_errno(sistema->code().value())).rapporto();
+  }
+  if (dynamic_cast<const std::bad_alloc*>(&e) != nullptr) return errore_runtime(codice::memoria_esaurita).rapporto();
+  return "Errore interno del programma.";
+}
 
 }  // namespace schedine

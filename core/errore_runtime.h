@@ -12,6 +12,7 @@ namespace schedine {
 namespace codice {
 inline constexpr int chiamata_non_valida = 5;
 inline constexpr int overflow = 6;
+inline constexpr int memoria_esaurita = 7;
 inline constexpr int divisione_per_zero = 11;
 inline constexpr int indice_fuori_intervallo = 9;
 inline constexpr int tipo_non_corrispondente = 13;
@@ -31,6 +32,10 @@ inline constexpr int errore_stampante = 482;
 // The platform's text for an error number ("Overflow", "Impossibile trovare il file", ...).
 const char* testo_errore(int numero);
 
+// The platform's error number for a failed operation on a file, from the C
+// library's error (errno): a full disk, no permission, a missing folder, ...
+int codice_da_errno(int numero_errno);
+
 class errore_runtime : public std::runtime_error {
  public:
   // dettaglio names what failed, such as the file being read; it may be empty.
@@ -45,6 +50,12 @@ class errore_runtime : public std::runtime_error {
   int numero_;
   std::string dettaglio_;
 };
+
+// The report of any failure that ends the program, in the program's
+// language: a run-time error as it stands, a failure of the system's file
+// calls as the run-time error it amounts to (naming the file), anything else
+// as an internal fault; never a library's own English text.
+std::string rapporto_guasto(const std::exception& e);
 
 // Runs one statement and drops a run-time error it raises, as a routine does
 // that goes on with the next statement after a failure. Tells whether it ran through.

@@ -1,7 +1,9 @@
 #include "core/file_record.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <charconv>
 #include <cmath>
@@ -21,21 +23,6 @@ constexpr int fine = -1;
 bool e_blank(int c) { return c == ' ' || c == '\t'; }
 bool e_fine_riga(int c) { return c == '\r' || c == '\n'; }
 
-// The platform's error for a failed operation on a file, from the C library's error.
-int errore_da_errno(int numero_errno) {
-  switch (numero_errno) {
-    case ENOENT: return codice::percorso_non_trovato;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG: return codice::disco_pieno;  // no room for the file to grow, whatever the limit
-    case EACCES:
-    case EPERM:
-    case EROFS: return codice::autorizzazione_negata;
-    case EISDIR: return codice::errore_accesso;
-    default: return codice::errore_io;
-  }
-}
-
 }  // namespace
 
 // ---------------------------------------------------------------- reading
@@ -44,7 +31,7 @@ lettore_record::lettore_record(const std::string& percorso) : percorso_(risolvi_
   std::error_code ec;
   if (!std::filesystem::is_regular_file(percorso_, ec)) throw errore_runtime(codice::file_non_trovato, percorso);
   file_ = std::fopen(percorso_.c_str(), "rb");
-  if (file_ == nullptr) throw errore_runtime(errore_da_errno(errno), percorso);
+  if (file_ == nullptr) throw errore_runtime(codice_da_errno(errno), percorso);
   buffer_.resize(dimensione_buffer);
 }
 
@@ -177,10 +164,37 @@ std::string lettore_record::leggi_riga() {
 
 // ---------------------------------------------------------------- writing
 
-scrittore_record::scrittore_record(std::string percorso)
-    : percorso_(risolvi_percorso(percorso)), temporaneo_(percorso_ + ".tmp~") {
-  file_ = std::fopen(temporaneo_.c_str(), "wb");
-  if (file_ == nullptr) throw errore_runtime(errore_da_errno(errno), percorso_);
+namespace {
+
+// Opens a new temporary file beside percorso, named NAME.PID-N.tmp~, that no
+// other write uses: a leftover of a write that was killed, or anything else
+// standing under a name, never blocks a save, as the next name is taken.
+// Returns the descriptor (and the name), or -1 with errno set.
+int crea_temporaneo(const std::string& percorso, std::string& nome) {
+  static std::atomic<unsigned> contatore{0};
+  constexpr int tentativi = 1000;
+  const std::string prefisso = percorso + "." + std::to_string(::getpid()) + "-";
+  for (int i = 0; i < tentativi; ++i) {
+    nome = prefisso + std::to_string(contatore++) + ".tmp~";
+    const int descrittore = ::open(nome.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (descrittore >= 0 || errno != EEXIST) return descrittore;
+  }
+  return -1;
+}
+
+}  // namespace
+
+scrittore_record::scrittore_record(std::string percorso) : percorso_(risolvi_percorso(percorso)) {
+  const int descrittore = crea_temporaneo(percorso_, temporaneo_);
+  if (descrittore >= 0) file_ = ::fdopen(descrittore, "wb");
+  if (file_ == nullptr) {
+    const int numero = codice_da_errno(errno);
+    if (descrittore >= 0) {
+      ::close(descrittore);
+      std::remove(temporaneo_.c_str());
+    }
+    throw errore_runtime(numero, percorso_);
+  }
 }
 
 scrittore_record::~scrittore_record() {
@@ -201,7 +215,7 @@ void scrittore_record::fallisci(int numero) {
 
 void scrittore_record::scrivi_testo(std::string_view testo) {
   if (file_ == nullptr) throw errore_runtime(codice::nome_file_non_valido, percorso_);
-  if (std::fwrite(testo.data(), 1, testo.size(), file_) != testo.size()) fallisci(errore_da_errno(errno));
+  if (std::fwrite(testo.data(), 1, testo.size(), file_) != testo.size()) fallisci(codice_da_errno(errno));
 }
 
 namespace {
@@ -231,16 +245,16 @@ void scrittore_record::stampa_riga(std::string_view testo) {
 
 void scrittore_record::chiudi() {
   if (file_ == nullptr) return;
-  if (std::fflush(file_) != 0 || ::fsync(::fileno(file_)) != 0) fallisci(errore_da_errno(errno));
+  if (std::fflush(file_) != 0 || ::fsync(::fileno(file_)) != 0) fallisci(codice_da_errno(errno));
   std::FILE* file = file_;
   file_ = nullptr;
   if (std::fclose(file) != 0) {
-    int numero = errore_da_errno(errno);
+    int numero = codice_da_errno(errno);
     std::remove(temporaneo_.c_str());
     throw errore_runtime(numero, percorso_);
   }
   if (std::rename(temporaneo_.c_str(), percorso_.c_str()) != 0) {
-    int numero = errore_da_errno(errno);
+    int numero = codice_da_errno(errno);
     std::remove(temporaneo_.c_str());
     throw errore_runtime(numero, percorso_);
   }

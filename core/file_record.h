@@ -69,9 +69,9 @@ using campo_record = std::variant<std::string, int64_t, double, bool>;
 
 class scrittore_record {
  public:
-  // Opens the file for output. The text goes to a temporary file beside it,
-  // which chiudi() renames over the file: a write that fails halfway leaves
-  // the old file whole.
+  // Opens the file for output. The text goes to a temporary file of its own
+  // beside it, which chiudi() renames over the file: a write that fails
+  // halfway leaves the old file whole. A failure names the file written.
   explicit scrittore_record(std::string percorso);
   ~scrittore_record();  // without chiudi(), the temporary file is dropped
   scrittore_record(const scrittore_record&) = delete;

@@ -13,14 +13,37 @@ std::string numero_giornale(float valore) {
   return std::string(testo, fine);
 }
 
+namespace {
+
+// A character of a text as the journal writes it: control characters and
+// the backslash escaped, so one event stays one line.
+void aggiungi_carattere(std::string& risultato, char c) {
+  switch (c) {
+    case '"': risultato += "\"\""; return;
+    case '\\': risultato += "\\\\"; return;
+    case '\n': risultato += "\\n"; return;
+    case '\r': risultato += "\\r"; return;
+    case '\t': risultato += "\\t"; return;
+    default: break;
+  }
+  const auto codice = static_cast<unsigned char>(c);
+  if (codice >= 0x20) {
+    risultato += c;
+    return;
+  }
+  constexpr char cifre[] = "0123456789abcdef";
+  risultato += "\\x";
+  risultato += cifre[codice >> 4];
+  risultato += cifre[codice & 0xf];
+}
+
+}  // namespace
+
 std::string testo_giornale(std::string_view testo) {
   std::string risultato;
   risultato.reserve(testo.size() + 2);
   risultato += '"';
-  for (char c : testo) {
-    if (c == '"') risultato += '"';
-    risultato += c;
-  }
+  for (char c : testo) aggiungi_carattere(risultato, c);
   risultato += '"';
   return risultato;
 }

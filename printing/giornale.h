@@ -3,7 +3,8 @@
 // Device operations write "name arg arg ..."; the runner adds its own lines
 // for message boxes, clicks that could not happen, programs started and the
 // error that ends a run. Numbers are written as the shortest text that reads
-// back as the same 32-bit float; texts in double quotes, a quote doubled.
+// back as the same 32-bit float; texts in double quotes, a quote doubled,
+// line ends, tabs, other control characters and the backslash escaped.
 
 #include <cstdint>
 #include <iosfwd>
@@ -16,7 +17,9 @@ namespace schedine {
 // with a point: 5.72, 12.6, -0.4375, 0.
 std::string numero_giornale(float valore);
 
-// A text in double quotes, with each quote inside it doubled.
+// A text in double quotes, with each quote inside it doubled; a line feed is
+// written \n, a carriage return \r, a tab \t, any other character below
+// U+0020 \xNN (two lower-case hex digits) and a backslash \\.
 std::string testo_giornale(std::string_view testo);
 
 // One journal line, built word by word after the event's name.

@@ -32,7 +32,7 @@ rm -rf "$uscita/skin1" "$uscita/skin4"
 mkdir -p "$uscita"
 stato=0
 # A build with sanitizers reports what the X11 libraries keep till the end.
-export LSAN_OPTIONS="suppressions=$PWD/tests/app/lsan_xcb.supp:print_suppressions=0"
+export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
 SCHEDINE_SCHERMATE="$uscita" QT_QPA_PLATFORM=xcb \
   xvfb-run -a -s "-screen 0 1280x1024x24" \
   "$costruzione/tests/app/test_schermata" --gtest_filter='*_skin1:*_skin4:Anteprima.*' > "$uscita/esito.txt" 2>&1 || stato=$?

@@ -22,14 +22,11 @@ void legame::evento(const std::function<void()>& regola) {
   ++profondita_;
   try {
     regola();
-  } catch (const errore_runtime& e) {
-    --profondita_;
-    guasto(e.rapporto());
-    return;
   } catch (const std::exception& e) {
-    // A fault of the program itself ends it the same way, named as such.
+    // A run-time error ends the program with its report; any other failure
+    // ends it the same way, reported in the program's own words.
     --profondita_;
-    guasto(std::string("Errore interno: ") + e.what());
+    guasto(rapporto_guasto(e));
     return;
   }
   --profondita_;

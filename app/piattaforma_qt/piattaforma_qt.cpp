@@ -18,10 +18,16 @@ void avvisa_file_pdf(const std::string& percorso) {
                    stile_messaggio::informazione, "");
 }
 
+void avvisa_guasto_pdf(const std::string& guasto) {
+  mostra_messaggio("Non è installata alcuna stampante e la stampa non è stata salvata:\n" + guasto,
+                   stile_messaggio::critico, "");
+}
+
 }  // namespace
 
 piattaforma_qt::piattaforma_qt(std::string cartella_programma)
-    : stampante_(std::move(cartella_programma), &stampante_app::stampanti_installate, &avvisa_file_pdf) {}
+    : stampante_(std::move(cartella_programma), &stampante_app::stampanti_installate, &avvisa_file_pdf,
+                 &avvisa_guasto_pdf) {}
 
 void piattaforma_qt::esegui_eventi_in_attesa() {
   if (prima_degli_eventi) prima_degli_eventi();

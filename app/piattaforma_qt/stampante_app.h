@@ -5,6 +5,13 @@
 // "stampe" of the program folder, named by date and time, so that nothing
 // printed is lost; when such a job closes, the user is told the file.
 //
+// A PDF job that can't reach its file (the folder can't be made, the file
+// can't be written, the disk fills up) fails as a printer fails: the
+// operation throws the printer error (482), naming the file and the cause,
+// and so does every later operation of the job until the job closes or the
+// next job is prepared. The user is told once, with the file and the cause;
+// a file left unfinished is removed, as it holds no readable print.
+//
 // The choice is made at the first operation of each job. Device settings
 // (pen, fill, font, page mode) hold from one job to the next, as on a printer
 // that stays the same for the whole run.
@@ -15,6 +22,7 @@
 #include <optional>
 #include <string>
 
+#include "core/errore_runtime.h"
 #include "printing/dispositivo_stampa.h"
 
 namespace schedine {
@@ -25,8 +33,10 @@ class stampante_app : public dispositivo_stampa {
  public:
   // ci_sono_stampanti: whether any printer is installed (asked at each job).
   // avvisa_pdf: tells the user the file a job went to.
+  // avvisa_guasto: tells the user that a job's file could not be written.
   stampante_app(std::string cartella_programma, std::function<bool()> ci_sono_stampanti,
-                std::function<void(const std::string&)> avvisa_pdf);
+                std::function<void(const std::string& percorso)> avvisa_pdf,
+                std::function<void(const std::string& guasto)> avvisa_guasto = {});
   ~stampante_app() override;
 
   // The printer check of a desktop with Qt: any installed printer at all.
@@ -52,11 +62,20 @@ class stampante_app : public dispositivo_stampa {
  private:
   // The device of the job in course, chosen at the job's first operation.
   dispositivo_stampa& lavoro();
+  dispositivo_stampa& apri_pdf();
   std::string nuovo_file_pdf() const;
+  // Runs one operation on the job's device; a failure of the job's PDF file
+  // fails the job (see above).
+  template <class Operazione>
+  auto nel_lavoro(Operazione&& operazione);
+  // Drops the failed PDF job and its unfinished file, and tells the user.
+  void abbandona_pdf(const errore_runtime& errore);
 
   std::string cartella_programma_;
   std::function<bool()> ci_sono_stampanti_;
   std::function<void(const std::string&)> avvisa_pdf_;
+  std::function<void(const std::string&)> avvisa_guasto_;
+  std::optional<errore_runtime> guasto_;  // the failure of the PDF job in course
 
   std::unique_ptr<dispositivo_qt> stampante_;  // the default printer, kept for the run
   std::unique_ptr<dispositivo_qt> pdf_;        // the PDF of the job in course

@@ -6,6 +6,9 @@
 #include <QPrinterInfo>
 
 #include "core/errore_runtime.h"
+#include "printing/qt/file_pdf.h"
+
+#include <cerrno>
 
 #if defined(__GLIBC__)
 #include <malloc.h>
@@ -28,6 +31,14 @@ QPageLayout pagina_intera(const QPageSize& formato, QPageLayout::Orientation ori
   throw errore_runtime(codice::errore_stampante, dettaglio);
 }
 
+// A PDF file that can't be written, or was not written whole, is the printer
+// error naming the file and the cause.
+[[noreturn]] void errore_file(const file_pdf& file) {
+  const int causa = file.guasto() != 0 ? file.guasto() : EIO;
+  throw errore_runtime(codice::errore_stampante,
+                       "impossibile scrivere il file PDF " + file.percorso() + ": " + testo_errore(codice_da_errno(causa)));
+}
+
 }  // namespace
 
 void trattieni_memoria_pdf() {
@@ -43,24 +54,31 @@ void trattieni_memoria_pdf() {
 }
 
 std::unique_ptr<dispositivo_qt> dispositivo_qt::per_pdf(const std::string& percorso) {
-  auto pdf = std::make_unique<QPdfWriter>(QString::fromStdString(percorso));
+  auto file = std::make_unique<file_pdf>(percorso);
+  auto pdf = std::make_unique<QPdfWriter>(file.get());
   pdf->setPageLayout(pagina_intera(QPageSize(QPageSize::A4), QPageLayout::Portrait));
   pdf->setCreator(QStringLiteral("schedine"));
-  return std::unique_ptr<dispositivo_qt>(new dispositivo_qt(std::move(pdf)));
+  return std::unique_ptr<dispositivo_qt>(new dispositivo_qt(std::move(file), std::move(pdf)));
 }
 
 std::unique_ptr<dispositivo_qt> dispositivo_qt::per_stampante_predefinita() {
-  return std::unique_ptr<dispositivo_qt>(new dispositivo_qt(nullptr));
+  return std::unique_ptr<dispositivo_qt>(new dispositivo_qt(nullptr, nullptr));
 }
 
-dispositivo_qt::dispositivo_qt(std::unique_ptr<QPdfWriter> pdf)
-    : pdf_(std::move(pdf)) {}
+dispositivo_qt::dispositivo_qt(std::unique_ptr<file_pdf> file, std::unique_ptr<QPdfWriter> pdf)
+    : file_(std::move(file)), pdf_(std::move(pdf)) {}
 
-dispositivo_qt::~dispositivo_qt() { termina(); }
+dispositivo_qt::~dispositivo_qt() { finisci(); }
 
 void dispositivo_qt::termina() {
+  finisci();
+  if (file_ && file_->guasto() != 0) errore_file(*file_);
+}
+
+void dispositivo_qt::finisci() {
   if (pdf_) pdf_finito_ = true;
   if (pittore_.isActive()) pittore_.end();
+  if (file_) file_->close();
   stampante_.reset();
   foglio_ = nullptr;
   lavoro_aperto_ = false;
@@ -102,7 +120,7 @@ void dispositivo_qt::apri_lavoro_pdf() {
     return;
   }
   pdf_->setPageOrientation(orientamento_);
-  if (!pittore_.begin(pdf_.get())) errore_stampante("impossibile scrivere il file PDF");
+  if (!file_->apri() || !pittore_.begin(pdf_.get())) errore_file(*file_);
   foglio_ = pdf_.get();
   file_iniziato_ = true;
 }

@@ -26,6 +26,8 @@ class QPrinter;
 
 namespace schedine {
 
+class file_pdf;
+
 // Qt's PDF engine (behind QPdfWriter and, on Linux, QPrinter) takes two 16 MB
 // buffers to compress each page and frees them at once. With glibc's default
 // thresholds that memory goes back to the system after every page and comes
@@ -48,7 +50,9 @@ class dispositivo_qt : public dispositivo_stampa {
   static std::unique_ptr<dispositivo_qt> per_stampante_predefinita();
 
   // Finishes the PDF file, or sends a printer job left open. A PDF device
-  // draws nothing more after it.
+  // draws nothing more after it. termina() then tells a PDF file that could
+  // not be written whole (a full disk, say): the printer error naming the
+  // file and the cause. The device's end finishes without a word.
   ~dispositivo_qt() override;
   void termina();
   // Whether a PDF device has begun writing its file (its first job drew).
@@ -77,7 +81,8 @@ class dispositivo_qt : public dispositivo_stampa {
   void chiudi_stampa() override;
 
  private:
-  explicit dispositivo_qt(std::unique_ptr<QPdfWriter> pdf);
+  dispositivo_qt(std::unique_ptr<file_pdf> file, std::unique_ptr<QPdfWriter> pdf);
+  void finisci();
 
   // The painter, ready on the page being drawn: opens the job and feeds the
   // pages ended since the last drawing.
@@ -85,7 +90,8 @@ class dispositivo_qt : public dispositivo_stampa {
   void apri_lavoro();
   void apri_lavoro_pdf();
   void apri_lavoro_stampante();
-  std::unique_ptr<QPdfWriter> pdf_;          // PDF destination; null for the printer
+  std::unique_ptr<file_pdf> file_;           // the PDF's file; null for the printer
+  std::unique_ptr<QPdfWriter> pdf_;          // PDF destination, writing into file_
   std::unique_ptr<QPrinter> stampante_;      // the printer of the open job
   QPagedPaintDevice* foglio_ = nullptr;      // what the painter is on
   QPainter pittore_;

@@ -2,9 +2,10 @@
 """The real desktop program under several system locales, driven through the
 accessibility bus as a screen reader drives it and typed at as a person
 types: the system is chosen with the arrow keys and opened with Enter, the
-SuperEnalotto slip is switched to two panels and "N.Casuale" is ticked. Every
-locale must give the same texts in the windows, prices with a decimal comma,
-and no fault.
+SuperEnalotto slip is switched to two panels and "N.Casuale" is ticked, and
+the program is left with its "Esci" buttons. Every locale must give the same
+texts in the windows, prices with a decimal comma, no fault, and a clean end
+(status 0: with the sanitizers on, no report at exit).
 
 Usage: stessi_numeri.py PROGRAM DEMO_MAKER   (inside dbus-run-session, under X)
 """
@@ -108,6 +109,21 @@ def testi(radice):
     return righe
 
 
+def esci_dal_programma(app, processo, locale):
+    """Esci on the slip, then Esci on the main window: the program ends as a
+    person ends it, and with the sanitizers on its end must report nothing."""
+    premi(aspetta(lambda: primo(app, lambda n: n.getRole() == pyatspi.ROLE_PUSH_BUTTON and n.name == "Esci"
+                                and n.getState().contains(pyatspi.STATE_SHOWING)), "Esci della scheda"))
+    form1 = aspetta(lambda: finestra(app, "Stampa Schedine"), "la finestra principale di nuovo")
+    premi(aspetta(lambda: cerca(form1, (pyatspi.ROLE_PUSH_BUTTON,), "Esci"), "Esci"))
+    try:
+        esito = processo.wait(timeout=ATTESA)
+    except subprocess.TimeoutExpired:
+        raise AssertionError("%s: il programma non finisce con Esci" % locale)
+    if esito != 0:
+        raise AssertionError("%s: il programma è finito con lo stato %s" % (locale, esito))
+
+
 def una_sessione(programma, locale):
     ambiente = dict(os.environ, LANG=locale, LC_ALL=locale, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                     QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1")
@@ -136,6 +152,7 @@ def una_sessione(programma, locale):
         for f in app:
             if f is not None and f.getState().contains(pyatspi.STATE_SHOWING):
                 lette += testi(f)
+        esci_dal_programma(app, processo, locale)
         return lette
     finally:
         if processo.poll() is None:

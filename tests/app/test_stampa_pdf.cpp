@@ -10,6 +10,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <sys/resource.h>
+
+#include <csignal>
 #include <cmath>
 #include <filesystem>
 #include <sstream>
@@ -37,7 +40,9 @@ class piattaforma_pdf : public servizi_piattaforma {
   explicit piattaforma_pdf(const std::string& cartella)
       : giornale_(testo_),
         dispositivo_giornale_(giornale_),
-        stampante_(cartella, [] { return false; }, [this](const std::string& p) { file_pdf.push_back(p); }),
+        stampante_(
+            cartella, [] { return false; }, [this](const std::string& p) { file_pdf.push_back(p); },
+            [this](const std::string& g) { guasti.push_back(g); }),
         doppio_(dispositivo_giornale_, stampante_) {}
 
   void esegui_eventi_in_attesa() override {}
@@ -58,6 +63,7 @@ class piattaforma_pdf : public servizi_piattaforma {
   }
 
   std::vector<std::string> file_pdf;
+  std::vector<std::string> guasti;
   std::vector<std::string> messaggi;
 
  private:
@@ -90,28 +96,52 @@ void clic(QAbstractButton* w) {
   QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(std::min(8, w->width() / 2), w->height() / 2));
 }
 
-TEST(StampaPdf, LottoMarksLandOnTheirTables) {
-  cartella_temporanea cartella;
-  demo::genera_demo(cartella.str(), SCHEDINE_SKIN_DIR);
-  piattaforma_pdf piattaforma(cartella.str());
-  programma p(cartella.str(), piattaforma, formato_locale::italiano());
-  legame binder(p.moduli, piattaforma, &crea_finestra);
-  binder.al_termine_per_guasto = [] { ADD_FAILURE() << "the program stopped on a fault"; };
-  binder.evento([&] { p.avvia(); });
-  auto w = [&](const char* modulo, const char* nome, int indice = -1) {
+// The program on a demo folder, printing the first Lotto system (a terno on
+// Bari) as a user does, with the mouse.
+class StampaPdf : public ::testing::Test {
+ protected:
+  StampaPdf() {
+    demo::genera_demo(cartella.str(), SCHEDINE_SKIN_DIR);
+    binder.al_termine_per_guasto = [this] { fermato = true; };
+  }
+  ~StampaPdf() override { p.termina(); }
+
+  QAbstractButton* w(const char* modulo, const char* nome, int indice = -1) {
     finestra_modulo* f = binder.finestra(modulo);
     return f == nullptr ? nullptr : f->findChild<QAbstractButton*>(nome_widget(nome, indice));
-  };
+  }
 
-  clic(w("Form1", "Option1", 1));
-  auto* lista = binder.finestra("Form1")->findChild<QListWidget*>(QStringLiteral("List1"));
-  QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(lista->item(0)).center());
-  clic(w("Form1", "cmdok"));
-  const char* lotto = "Form_sched_lotto_ambetto";
-  clic(w(lotto, "ChRuote", 0));
-  clic(w(lotto, "ChTerno", 8));
-  clic(w(lotto, "cmdstampa", 1));
+  void stampa_terno_su_bari(const std::function<void()>& prima_di_stampare = [] {}) {
+    binder.evento([&] { p.avvia(); });
+    clic(w("Form1", "Option1", 1));
+    auto* lista = binder.finestra("Form1")->findChild<QListWidget*>(QStringLiteral("List1"));
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(lista->item(0)).center());
+    clic(w("Form1", "cmdok"));
+    const char* lotto = "Form_sched_lotto_ambetto";
+    clic(w(lotto, "ChRuote", 0));
+    clic(w(lotto, "ChTerno", 8));
+    prima_di_stampare();
+    clic(w(lotto, "cmdstampa", 1));
+  }
 
+  std::vector<std::string> stampe() const {
+    std::vector<std::string> nomi;
+    std::error_code nessuno;
+    for (const auto& f : std::filesystem::directory_iterator(cartella.file("stampe"), nessuno)) nomi.push_back(f.path());
+    return nomi;
+  }
+
+  cartella_temporanea cartella;
+  piattaforma_pdf piattaforma{cartella.str()};
+  programma p{cartella.str(), piattaforma, formato_locale::italiano()};
+  legame binder{p.moduli, piattaforma, &crea_finestra};
+  bool fermato = false;
+};
+
+TEST_F(StampaPdf, LottoMarksLandOnTheirTables) {
+  stampa_terno_su_bari();
+  EXPECT_FALSE(fermato);
+  EXPECT_TRUE(piattaforma.guasti.empty());
   ASSERT_EQ(piattaforma.file_pdf.size(), 1u) << "one job, one file, and the user told of it";
   const std::filesystem::path pdf = piattaforma.file_pdf[0];
   EXPECT_EQ(pdf.parent_path(), std::filesystem::path(cartella.file("stampe")));
@@ -144,7 +174,42 @@ TEST(StampaPdf, LottoMarksLandOnTheirTables) {
     EXPECT_NEAR(m.y, c.y, 0.1);
     EXPECT_NEAR(m.area, 3.14159, 0.6) << "a dot of radius 1 mm";
   }
-  p.termina();
+}
+
+// A print that can't reach its file is no success: the user is told once,
+// in Italian, which file and why; no broken file stays behind; the print
+// fails as any print fails (the Lotto form goes on) and the next one works.
+TEST_F(StampaPdf, AFileInPlaceOfTheFolderIsToldAndTheNextPrintWorks) {
+  cartella.scrivi("stampe", "");
+  stampa_terno_su_bari();
+  EXPECT_FALSE(fermato);
+  EXPECT_TRUE(piattaforma.file_pdf.empty());
+  ASSERT_EQ(piattaforma.guasti.size(), 1u);
+  EXPECT_EQ(piattaforma.guasti[0],
+            "impossibile creare la cartella " + cartella.file("stampe") + ": Errore di accesso al percorso/file");
+
+  std::filesystem::remove(cartella.file("stampe"));
+  clic(w("Form_sched_lotto_ambetto", "cmdstampa", 1));
+  EXPECT_EQ(piattaforma.file_pdf.size(), 1u);
+  EXPECT_EQ(piattaforma.guasti.size(), 1u);
+}
+
+// A full disk, made by a limit on the size of the files this process writes.
+TEST_F(StampaPdf, AFullDiskIsToldAndLeavesNoFile) {
+  rlimit prima{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &prima), 0);
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit piccolo = prima;
+  piccolo.rlim_cur = 1024;
+  stampa_terno_su_bari([&] { ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &piccolo), 0); });
+  setrlimit(RLIMIT_FSIZE, &prima);
+
+  EXPECT_FALSE(fermato);
+  EXPECT_TRUE(piattaforma.file_pdf.empty()) << "no word of a saved print";
+  ASSERT_EQ(piattaforma.guasti.size(), 1u);
+  EXPECT_TRUE(piattaforma.guasti[0].starts_with("impossibile scrivere il file PDF " + cartella.file("stampe/stampa-")));
+  EXPECT_TRUE(piattaforma.guasti[0].ends_with(".pdf: Disco pieno")) << piattaforma.guasti[0];
+  EXPECT_TRUE(stampe().empty());
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+
 #include "core/errore_runtime.h"
 #include "core/file_record.h"
 #include "tests/support/cartella_temporanea.h"
@@ -15,6 +18,13 @@ class FileRecord : public ::testing::Test {
 };
 
 using test::numero_errore;
+
+std::vector<std::string> nomi_in(const test::cartella_temporanea& cartella) {
+  std::vector<std::string> nomi;
+  for (const auto& voce : std::filesystem::directory_iterator(cartella.file(""))) nomi.push_back(voce.path().filename());
+  std::sort(nomi.begin(), nomi.end());
+  return nomi;
+}
 
 TEST_F(FileRecord, FieldsAreTakenRegardlessOfLineEnds) {
   auto f = apri("1,2\r\n3\r\n4,5,\r\n\r\n6");
@@ -135,7 +145,19 @@ TEST_F(FileRecord, AnUnfinishedWriteLeavesTheOldFileWhole) {
     w.stampa_riga("nuovo");
   }  // no chiudi(): the write did not end
   EXPECT_EQ(cartella.leggi("w"), "vecchio\r\n");
-  EXPECT_FALSE(std::filesystem::exists(cartella.file("w.tmp~")));
+  EXPECT_EQ(nomi_in(cartella), std::vector<std::string>{"w"});
+}
+
+// What a killed save leaves behind, or anything standing where a temporary
+// file could go, never blocks the next save.
+TEST_F(FileRecord, NoLeftoverBesideTheFileBlocksAWrite) {
+  cartella.scrivi("w", "vecchio\r\n");
+  std::filesystem::create_directory(cartella.file("w.tmp~"));
+  scrittore_record w(cartella.file("w"));
+  w.stampa_riga("nuovo");
+  w.chiudi();
+  EXPECT_EQ(cartella.leggi("w"), "nuovo\r\n");
+  EXPECT_EQ(nomi_in(cartella), (std::vector<std::string>{"w", "w.tmp~"}));
 }
 
 TEST_F(FileRecord, AWriteIntoAMissingFolderFailsClearly) {

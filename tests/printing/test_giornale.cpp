@@ -34,6 +34,14 @@ TEST(TestoGiornale, RaddoppiaLeVirgoletteETieneIlTestoComE) {
   EXPECT_EQ(testo_giornale("Sistema - Sched. n.3 - € 1,50"), "\"Sistema - Sched. n.3 - € 1,50\"");
 }
 
+// A system's name can hold anything its file name holds: one event stays one line.
+TEST(TestoGiornale, ScriveICaratteriDiControlloELaBarraRovesciata) {
+  EXPECT_EQ(testo_giornale("a\nb\rc\td"), R"("a\nb\rc\td")");
+  EXPECT_EQ(testo_giornale(std::string_view("\0\x01\x1b\x1f \x7f", 6)), "\"\\x00\\x01\\x1b\\x1f \x7f\"");
+  EXPECT_EQ(testo_giornale(R"(C:\sistemi\n1)"), R"("C:\\sistemi\\n1")");
+  EXPECT_EQ(testo_giornale("\"\n\""), R"("""\n""")");
+}
+
 TEST(Giornale, RigheDelRunner) {
   std::ostringstream uscita;
   {

@@ -76,7 +76,7 @@ if [[ $stato != 2 ]]; then
   grep -q "nessuna/run.pdf: cannot write the PDF: no such folder" "$lavoro/errori" || errore "no folder: $(cat "$lavoro/errori")"
   [[ ! -s $lavoro/uscita ]] || errore "the run went on without its PDF"
   atteso 4 --folder "$cartella" --anteprima /dev/full "$lavoro/prova.txt"
-  grep -q "/dev/full: the PDF could not be written whole" "$lavoro/errori" || errore "full disk: $(cat "$lavoro/errori")"
+  grep -q "/dev/full: the PDF could not be written whole (.*/dev/full: Disco pieno)" "$lavoro/errori" || errore "full disk: $(cat "$lavoro/errori")"
   atteso 0 --folder "$cartella" --pdf "$lavoro/prova.pdf" "$lavoro/prova.txt"
 fi
 

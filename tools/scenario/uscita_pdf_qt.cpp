@@ -1,6 +1,6 @@
-#include <QFile>
 #include <QGuiApplication>
 
+#include "core/errore_runtime.h"
 #include "printing/qt/dispositivo_qt.h"
 #include "printing/qt/figura_pagina.h"
 #include "printing/schedina_in_stampa.h"
@@ -20,9 +20,12 @@ class uscita_pdf_qt : public uscita_pdf {
   }
   dispositivo_stampa& dispositivo() override { return *dispositivo_; }
   std::string termina() override {
-    dispositivo_->termina();
-    if (!dispositivo_->file_iniziato() || finisce_intero()) return {};
-    return "the PDF could not be written whole (is the disk full?)";
+    try {
+      dispositivo_->termina();
+    } catch (const errore_runtime& e) {
+      return "the PDF could not be written whole (" + e.dettaglio() + ")";
+    }
+    return {};
   }
   // Each page begins with the picture of the slip of the form that prints.
   void collega_stato(const stato& s) override {
@@ -40,15 +43,6 @@ class uscita_pdf_qt : public uscita_pdf {
     static char nome[] = "schedine-scenario";
     static char* argv[] = {nome, nullptr};
     return std::make_unique<QGuiApplication>(argc, argv);
-  }
-
-  // A PDF written whole ends with its end-of-file mark; Qt's writer says
-  // nothing of a write that failed on the way.
-  bool finisce_intero() const {
-    QFile file(QString::fromStdString(percorso_));
-    if (!file.open(QIODevice::ReadOnly) || file.size() < 16) return false;
-    file.seek(file.size() - 16);
-    return file.read(16).contains("%%EOF");
   }
 
   // Declared first, so it goes last: the device finishes its file while the application still stands.
