@@ -17,7 +17,9 @@ namespace schedine {
 
 namespace {
 
-constexpr size_t dimensione_buffer = 64 * 1024;
+// Large enough that a system file of many megabytes takes few reads, small
+// enough that opening one of the many small files costs nothing to speak of.
+constexpr size_t dimensione_buffer = 16 * 1024;
 constexpr int fine = -1;
 
 bool e_blank(int c) { return c == ' ' || c == '\t'; }
@@ -32,7 +34,7 @@ lettore_record::lettore_record(const std::string& percorso) : percorso_(risolvi_
   if (!std::filesystem::is_regular_file(percorso_, ec)) throw errore_runtime(codice::file_non_trovato, percorso);
   file_ = std::fopen(percorso_.c_str(), "rb");
   if (file_ == nullptr) throw errore_runtime(codice_da_errno(errno), percorso);
-  buffer_.resize(dimensione_buffer);
+  buffer_ = std::make_unique_for_overwrite<char[]>(dimensione_buffer);
 }
 
 lettore_record::~lettore_record() {
@@ -41,10 +43,13 @@ lettore_record::~lettore_record() {
 
 int lettore_record::guarda() {
   if (inizio_ == fine_) {
+    // Once the end is met it stays met: no read of the file is asked again.
+    if (finito_) return fine;
     inizio_ = 0;
-    fine_ = std::fread(buffer_.data(), 1, buffer_.size(), file_);
+    fine_ = std::fread(buffer_.get(), 1, dimensione_buffer, file_);
     if (fine_ == 0) {
       if (std::ferror(file_)) errore(codice::errore_io);
+      finito_ = true;
       return fine;
     }
   }

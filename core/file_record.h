@@ -59,9 +59,10 @@ class lettore_record {
 
   std::string percorso_;
   std::FILE* file_ = nullptr;
-  std::vector<char> buffer_;
+  std::unique_ptr<char[]> buffer_;
   size_t inizio_ = 0;
   size_t fine_ = 0;
+  bool finito_ = false;  // the end of the file was met
 };
 
 // One field of a write: a string, a whole number, a decimal number or a Boolean.

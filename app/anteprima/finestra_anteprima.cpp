@@ -133,8 +133,10 @@ void finestra_anteprima::stampa() {
 void finestra_anteprima::salva_pdf() {
   const QString percorso = chiedi_file_pdf ? chiedi_file_pdf() : QString();
   if (percorso.isEmpty()) return;
-  if (!esporta_pdf(*pagine_, percorso.toStdString(), figura_->isChecked())) {
-    regia_.messaggio("Impossibile scrivere il file " + percorso.toStdString(), stile_messaggio::esclamativo, "");
+  try {
+    esporta_pdf(*pagine_, percorso.toStdString(), figura_->isChecked());
+  } catch (const errore_runtime& e) {
+    regia_.messaggio("Il file PDF non è stato salvato: " + e.dettaglio(), stile_messaggio::esclamativo, "");
   }
 }
 

@@ -82,7 +82,7 @@ void stampante_app::abbandona_pdf(const errore_runtime& errore) {
   if (pdf_) {
     pdf_.reset();
     std::error_code nessuno;
-    std::filesystem::remove(percorso_pdf_, nessuno);
+    if (std::filesystem::is_regular_file(percorso_pdf_, nessuno)) std::filesystem::remove(percorso_pdf_, nessuno);
   }
   in_corso_ = nullptr;
   guasto_ = errore;

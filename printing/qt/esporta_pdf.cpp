@@ -1,6 +1,6 @@
 #include "printing/qt/esporta_pdf.h"
 
-#include <QFileInfo>
+#include <filesystem>
 
 #include "core/errore_runtime.h"
 #include "printing/qt/dispositivo_qt.h"
@@ -9,7 +9,8 @@
 
 namespace schedine {
 
-bool esporta_pdf(const registratore& pagine, const std::string& percorso, bool con_figura) {
+void esporta_pdf(const registratore& pagine, const std::string& percorso, bool con_figura) {
+  if (pagine.pagine() == 0) throw errore_runtime(codice::errore_stampante, "l'anteprima non ha pagine");
   try {
     auto pdf = dispositivo_qt::per_pdf(percorso);
     for (size_t i = 0; i < pagine.pagine(); ++i) {
@@ -22,10 +23,12 @@ bool esporta_pdf(const registratore& pagine, const std::string& percorso, bool c
     pdf->chiudi_stampa();
     pdf->termina();
   } catch (const errore_runtime&) {
-    return false;
+    // A file left half-written holds no readable page; a device (such as
+    // /dev/full) is no file of ours to remove.
+    std::error_code nessuno;
+    if (std::filesystem::is_regular_file(percorso, nessuno)) std::filesystem::remove(percorso, nessuno);
+    throw;
   }
-  const QFileInfo file(QString::fromStdString(percorso));
-  return file.exists() && file.size() > 0;
 }
 
 }  // namespace schedine

@@ -8,7 +8,8 @@ namespace schedine {
 
 class registratore;
 
-// False when the file could not be written.
-bool esporta_pdf(const registratore& pagine, const std::string& percorso, bool con_figura);
+// Writes the file; a file that could not be written whole is the printer
+// error naming the file and the cause, and no such file is left behind.
+void esporta_pdf(const registratore& pagine, const std::string& percorso, bool con_figura);
 
 }  // namespace schedine

@@ -133,6 +133,12 @@ TEST_F(Anteprima, PreviewRunsThePrintRuleAndPrintsWhatStampaPrints) {
   EXPECT_GT(std::filesystem::file_size(b.cartella.file("con_figura.pdf")),
             std::filesystem::file_size(b.cartella.file("senza_figura.pdf")) + 10'000)
       << "the picture's boxes";
+  // A file that can't be written whole is no save: the user is told the file and why.
+  f->chiedi_file_pdf = [] { return QStringLiteral("/dev/full"); };
+  clic(f->findChild<QPushButton*>(QStringLiteral("salva_pdf")));
+  EXPECT_EQ(conta(nuove_righe(), "messaggio \"Il file PDF non è stato salvato: impossibile scrivere il file PDF "
+                                 "/dev/full: Disco pieno\""),
+            1);
 
   // "Stampa" of the preview sends the recorded slips, the rule does not run again.
   clic(f->findChild<QPushButton*>(QStringLiteral("stampa")));
