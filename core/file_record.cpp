@@ -175,6 +175,22 @@ std::string lettore_record::leggi_riga() {
   return riga;
 }
 
+uint64_t lettore_record::salta_riga(char da_contare) {
+  if (guarda() == fine) errore(codice::input_oltre_fine);
+  uint64_t conta = 0;
+  // The buffer is walked a block at a time up to the line end.
+  while (guarda() != fine) {
+    const char* da = buffer_.data() + inizio_;
+    const char* a = buffer_.data() + fine_;
+    const char* p = da;
+    for (; p != a && !e_fine_riga(static_cast<unsigned char>(*p)); ++p) conta += *p == da_contare ? 1 : 0;
+    inizio_ += static_cast<size_t>(p - da);
+    if (p != a) break;
+  }
+  if (guarda() != fine) salta_fine_campo();
+  return conta;
+}
+
 // ---------------------------------------------------------------- writing
 
 scrittore_record::scrittore_record(std::string percorso)
