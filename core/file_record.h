@@ -59,6 +59,8 @@ class lettore_record {
   int prossimo();    // next byte or EOF, consumed
   int guarda();      // next byte or EOF, not consumed
   void salta_fine_campo();
+  template <class Ferma, class Prendi>
+  void scorri(Ferma ferma, Prendi prendi);
   [[noreturn]] void errore(int numero) const;
   std::string leggi_campo_grezzo(bool& tra_virgolette);
 
