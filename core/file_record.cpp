@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <charconv>
@@ -24,6 +25,14 @@ constexpr int fine = -1;
 
 bool e_blank(int c) { return c == ' ' || c == '\t'; }
 bool e_fine_riga(int c) { return c == '\r' || c == '\n'; }
+
+// What scorri hands over, dropped.
+void nessuno(const char*, const char*) {}
+
+// What scorri hands over, appended to a text.
+auto aggiungi_a(std::string& testo) {
+  return [&testo](const char* da, const char* a) { testo.append(da, a); };
+}
 
 }  // namespace
 
@@ -66,6 +75,24 @@ bool lettore_record::fine_file() { return guarda() == fine; }
 
 void lettore_record::errore(int numero) const { throw errore_runtime(numero, percorso_); }
 
+// Takes the bytes from the next one up to the first for which ferma(byte)
+// holds, which stays unread, or to the end of the file, handing them over a
+// block of the buffer at a time to prendi(da, a): a field or a line may be
+// as long as the file, and a byte at a time would cost a call and a test of
+// the buffer for each.
+template <class Ferma, class Prendi>
+void lettore_record::scorri(Ferma ferma, Prendi prendi) {
+  while (guarda() != fine) {
+    const char* da = buffer_.get() + inizio_;
+    const char* a = buffer_.get() + fine_;
+    const char* p = da;
+    while (p != a && !ferma(static_cast<unsigned char>(*p))) ++p;
+    inizio_ += static_cast<size_t>(p - da);
+    prendi(da, p);
+    if (p != a) return;
+  }
+}
+
 // Consumes what ends a field: a comma, or a line end (CR LF, CR or LF).
 void lettore_record::salta_fine_campo() {
   int c = prossimo();
@@ -73,19 +100,20 @@ void lettore_record::salta_fine_campo() {
 }
 
 std::string lettore_record::leggi_campo_grezzo(bool& tra_virgolette) {
-  while (e_blank(guarda())) prossimo();
+  scorri([](int c) { return !e_blank(c); }, nessuno);
   if (guarda() == fine) errore(codice::input_oltre_fine);
   std::string testo;
   tra_virgolette = guarda() == '"';
   if (tra_virgolette) {
     prossimo();
-    for (int c = prossimo(); c != fine && c != '"'; c = prossimo()) testo += static_cast<char>(c);
+    scorri([](int c) { return c == '"'; }, aggiungi_a(testo));
+    prossimo();
     // Whatever stands between the closing quote and the separator is dropped.
-    while (guarda() != fine && guarda() != ',' && !e_fine_riga(guarda())) prossimo();
+    scorri([](int c) { return c == ',' || e_fine_riga(c); }, nessuno);
     salta_fine_campo();
     return testo;
   }
-  for (int c = guarda(); c != fine && c != ',' && !e_fine_riga(c); c = guarda()) testo += static_cast<char>(prossimo());
+  scorri([](int c) { return c == ',' || e_fine_riga(c); }, aggiungi_a(testo));
   salta_fine_campo();
   while (!testo.empty() && e_blank(static_cast<unsigned char>(testo.back()))) testo.pop_back();
   return testo;
@@ -162,9 +190,19 @@ bool lettore_record::leggi_booleano() {
 std::string lettore_record::leggi_riga() {
   if (guarda() == fine) errore(codice::input_oltre_fine);
   std::string riga;
-  for (int c = guarda(); c != fine && !e_fine_riga(c); c = guarda()) riga += static_cast<char>(prossimo());
+  scorri(e_fine_riga, aggiungi_a(riga));
   if (guarda() != fine) salta_fine_campo();
   return riga;
+}
+
+uint64_t lettore_record::salta_riga(char da_contare) {
+  if (guarda() == fine) errore(codice::input_oltre_fine);
+  uint64_t conta = 0;
+  scorri(e_fine_riga, [&](const char* da, const char* a) {
+    conta += static_cast<uint64_t>(std::count(da, a, da_contare));
+  });
+  if (guarda() != fine) salta_fine_campo();
+  return conta;
 }
 
 // ---------------------------------------------------------------- writing

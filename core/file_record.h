@@ -47,6 +47,11 @@ class lettore_record {
   void salta_campo() { leggi_campo(); }
   // The rest of the current line as raw text, without its line end.
   std::string leggi_riga();
+  // The same line dropped, never held: a line may be as long as the file.
+  // Tells how many of its characters are `da_contare` (none for the default:
+  // a line holds no line end). Past the last field it is "Input oltre la
+  // fine del file", as leggi_riga.
+  uint64_t salta_riga(char da_contare = '\n');
 
   const std::string& percorso() const { return percorso_; }
 
@@ -54,6 +59,8 @@ class lettore_record {
   int prossimo();    // next byte or EOF, consumed
   int guarda();      // next byte or EOF, not consumed
   void salta_fine_campo();
+  template <class Ferma, class Prendi>
+  void scorri(Ferma ferma, Prendi prendi);
   [[noreturn]] void errore(int numero) const;
   std::string leggi_campo_grezzo(bool& tra_virgolette);
 

@@ -4,7 +4,8 @@
 // plan, one read kind each; the rest is the file. The plan is run over and
 // over until the file ends or a read fails as the program's own failure.
 //
-// A second reader walks the same file in step, taking every field as text,
+// A second reader walks the same file in step, taking every field as text
+// and dropping, with its commas counted, every line the first reads,
 // and the numbers read are held against a plain reading of that text: a
 // value where it is a number, "Overflow" where it is one beyond the type,
 // "Tipo non corrispondente" where it is none.
@@ -99,8 +100,10 @@ void leggi_una(lettore_record& file, lettore_record& gemello, lettura tipo) {
     case lettura::salta: file.salta_campo(); gemello.leggi_campo(); break;
     case lettura::riga: {
       std::string riga = file.leggi_riga();
-      gemello.leggi_riga();
+      const uint64_t virgole = gemello.salta_riga(',');
       fuzz::richiedi(riga.find_first_of("\r\n") == std::string::npos, "leggi_riga gives no line end");
+      fuzz::richiedi(virgole == static_cast<uint64_t>(std::count(riga.begin(), riga.end(), ',')),
+                     "a line dropped counts the commas of the line read");
       break;
     }
     case lettura::fine_file: fuzz::richiedi(file.fine_file() == gemello.fine_file(), "twin readers stay in step"); break;

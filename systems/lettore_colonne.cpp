@@ -1,6 +1,7 @@
 #include "systems/lettore_colonne.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace schedine {
 
@@ -18,8 +19,9 @@ void lettore_colonne::leggi_colonna(std::span<uint8_t> colonna) {
 
 int numeri_prima_riga(const std::string& percorso) {
   lettore_record file(percorso);
-  std::string riga = file.leggi_riga();
-  return 1 + static_cast<int>(std::count(riga.begin(), riga.end(), ','));
+  const uint64_t virgole = file.salta_riga(',');
+  constexpr uint64_t massimo = std::numeric_limits<int>::max() - 1;
+  return 1 + static_cast<int>(std::min(virgole, massimo));
 }
 
 }  // namespace schedine

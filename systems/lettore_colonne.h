@@ -45,15 +45,17 @@ class lettore_colonne {
     for (int j = 0; j < n; ++j) colonna(j) = file_.leggi_byte();
   }
 
-  // The rest of the current line as raw text, without its line end.
-  std::string leggi_riga() { return file_.leggi_riga(); }
+  // Drops the rest of the current line, its line end included.
+  void salta_riga() { file_.salta_riga(); }
 
  private:
   lettore_record file_;
 };
 
 // Numbers in a column of a sestine-decine file: the commas of its first line
-// plus one. An empty file is "Input oltre la fine del file".
+// plus one. An empty file is "Input oltre la fine del file". The line is
+// counted as it streams by, never held, and a count beyond what an int holds
+// stays at its largest value: any count above the widest column reads alike.
 int numeri_prima_riga(const std::string& percorso);
 
 }  // namespace schedine

@@ -62,7 +62,7 @@ class file_colonne {
   void leggi_colonna(vettore<uint8_t, D>& colonna, int n) {
     aperto().leggi_colonna(colonna, n);
   }
-  std::string leggi_riga() { return aperto().leggi_riga(); }
+  void salta_riga() { aperto().salta_riga(); }
 
  private:
   lettore_colonne& aperto();

@@ -1,5 +1,7 @@
 #include "systems/lettura_lotto.h"
 
+#include <algorithm>
+
 #include "core/stato.h"
 #include "printing/dispositivo_stampa.h"
 #include "printing/lavoro_stampa.h"
@@ -72,16 +74,24 @@ class lettura {
     if (legge_numeri_) {
       esegui_([&] { file_.leggi_colonna(colonna_, numeri_); });
     } else {
-      esegui_([&] { file_.leggi_riga(); });
+      esegui_([&] { file_.salta_riga(); });
     }
   }
 
   // The numbers in the order of the file, neither sorted nor tested for doubles.
   void stampa_scheda() {
     esegui_([&] { dispositivo_.disegna_punto_zero(); });
-    for (int j = 0; j < numeri_; ++j) {
+    // A mark is asked for each of the numeri_ numbers of a column, but the
+    // column holds massimo_numeri: a mark past them fails on its index before
+    // anything is drawn. The first such mark is run and fails as it always
+    // has (stopping the run, or passed over); the others would only fail the
+    // same way with nothing done, once per number the first line of a
+    // sestine-decine file claims, so they are not run.
+    const int segnabili = std::min(numeri_, colonna_lotto::dimensione);
+    for (int j = 0; j < segnabili; ++j) {
       esegui_([&] { segna(s_, s_.tar_numeri(colonna_(j), asse_x), s_.tar_numeri(colonna_(j), asse_y)); });
     }
+    if (numeri_ > segnabili) esegui_([&] { static_cast<void>(colonna_(segnabili)); });
     esegui_([&] { scheda_lotto(s_, nome_); });
     chiudi_scheda(s_, "Form_sched_lotto_ambetto", esegui_);
   }

@@ -49,7 +49,7 @@ int32_t conta_righe(const std::string& percorso) {
   lettore_record file(percorso);
   int32_t righe = 0;
   while (!file.fine_file()) {
-    file.leggi_riga();
+    file.salta_riga();
     ++righe;
   }
   return righe;

@@ -118,6 +118,19 @@ TEST_F(FileRecord, LineInputTakesRawText) {
   EXPECT_EQ(numero_errore([&] { f.leggi_riga(); }), codice::input_oltre_fine);
 }
 
+// A dropped line is counted as it streams by, also when it is longer than the
+// reader's buffer and its CR LF straddles a refill.
+TEST_F(FileRecord, DroppedLineCountsItsCharactersAcrossTheBuffer) {
+  const size_t blocco = 64 * 1024;  // a multiple of the buffer
+  std::string lunga(blocco - 1, ',');
+  auto f = apri(lunga + "\r\n7,8\r\r\nx");
+  EXPECT_EQ(f.salta_riga(','), blocco - 1);
+  EXPECT_EQ(f.salta_riga(','), 1u);
+  EXPECT_EQ(f.salta_riga(), 0u);  // the CR alone ended "7,8": an empty line follows
+  EXPECT_EQ(f.leggi_riga(), "x");
+  EXPECT_EQ(numero_errore([&] { f.salta_riga(); }), codice::input_oltre_fine);
+}
+
 TEST_F(FileRecord, MissingFileIsFileNotFoundNamingIt) {
   try {
     lettore_record f(cartella.file("manca"));

@@ -218,6 +218,29 @@ TEST(StampaLotto, SestineDecineTakesItsWidthFromTheFirstLine) {
   }
 }
 
+// A first line of a million numbers prints what one of eleven prints: the
+// column still holds ten, and the run takes no longer for the numbers it can't
+// hold (the ctest time limit of this executable catches a run that does).
+TEST(StampaLotto, SestineDecineFirstLineOfAMillionNumbersPrintsAsOneOfEleven) {
+  auto sistema = [](int numeri_prima_riga) {
+    std::string testo;
+    for (int i = 0; i < numeri_prima_riga; ++i) {
+      testo += std::to_string(1 + i % 90) + (i + 1 < numeri_prima_riga ? "," : "\r\n");
+    }
+    for (int riga = 2; riga <= 21; ++riga) testo += "1,2,3,4,5,6,7,8,9,10,11\r\n";
+    return testo;
+  };
+  banco_stampa grande, piccolo;
+  grande.cartella.scrivi("sestine-decine/ssyf.txt", sistema(1'000'000));
+  piccolo.cartella.scrivi("sestine-decine/ssyf.txt", sistema(11));
+  corsa c = stampa(grande, "sestine-decine", "condizionato", " snuf.txt", 1, 0);
+  corsa attesa = stampa(piccolo, "sestine-decine", "condizionato", " snuf.txt", 1, 0);
+  EXPECT_EQ(c.giornale, attesa.giornale);
+  ASSERT_EQ(c.schede.size(), 21u);
+  EXPECT_EQ(c.schede.back(), "n.21 €1,00: 0 0 0 0 0 0 0 0 0 0");
+  EXPECT_EQ(c.esito, "chiuso");
+}
+
 // A crossword ".lot" is read in the size of the bet, whatever its lines hold.
 TEST(StampaLotto, CrosswordLotReadInThreesSlidesOverItsLines) {
   banco_stampa b;
