@@ -122,7 +122,6 @@ void dispositivo_qt::apri_lavoro_pdf() {
   pdf_->setPageOrientation(orientamento_);
   if (!file_->apri() || !pittore_.begin(pdf_.get())) errore_file(*file_);
   foglio_ = pdf_.get();
-  file_iniziato_ = true;
 }
 
 void dispositivo_qt::apri_lavoro_stampante() {

@@ -55,8 +55,6 @@ class dispositivo_qt : public dispositivo_stampa {
   // file and the cause. The device's end finishes without a word.
   ~dispositivo_qt() override;
   void termina();
-  // Whether a PDF device has begun writing its file (its first job drew).
-  bool file_iniziato() const { return file_iniziato_; }
 
   // What each page shows under the drawings, painted as the page begins (the
   // picture of the slip in a preview). None for paper, which has its own.
@@ -97,7 +95,6 @@ class dispositivo_qt : public dispositivo_stampa {
   QPainter pittore_;
 
   bool pdf_finito_ = false;
-  bool file_iniziato_ = false;
   bool lavoro_aperto_ = false;
   int pagine_da_alimentare_ = 0;
   int pagina_ = 1;
