@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
+#include <stdexcept>
+#include <system_error>
 
 #include "core/errore_runtime.h"
 #include "core/file_record.h"
@@ -171,6 +174,20 @@ TEST_F(FileRecord, NoLeftoverBesideTheFileBlocksAWrite) {
   w.chiudi();
   EXPECT_EQ(cartella.leggi("w"), "nuovo\r\n");
   EXPECT_EQ(nomi_in(cartella), (std::vector<std::string>{"w", "w.tmp~"}));
+}
+
+// Whatever fails, the user reads it in Italian and, for a file, learns which.
+TEST(RapportoGuasto, NoLibraryTextReachesTheUser) {
+  const std::filesystem::filesystem_error cartella_occupata(
+      "cannot create directories", "/programma/stampe", std::make_error_code(std::errc::not_a_directory));
+  EXPECT_EQ(rapporto_guasto(cartella_occupata),
+            "Errore di run-time '75': Errore di accesso al percorso/file: /programma/stampe");
+  EXPECT_EQ(rapporto_guasto(std::system_error(std::make_error_code(std::errc::no_space_on_device))),
+            "Errore di run-time '61': Disco pieno");
+  EXPECT_EQ(rapporto_guasto(std::bad_alloc()), "Errore di run-time '7': Memoria esaurita");
+  EXPECT_EQ(rapporto_guasto(std::logic_error("vector::_M_range_check")), "Errore interno del programma.");
+  EXPECT_EQ(rapporto_guasto(errore_runtime(codice::file_non_trovato, "x")),
+            "Errore di run-time '53': Impossibile trovare il file: x");
 }
 
 TEST_F(FileRecord, AWriteIntoAMissingFolderFailsClearly) {
