@@ -28,14 +28,11 @@ INSTANTIATE_TEST_SUITE_P(
                       caso_numero{24.6f - 15.0f, "9.6"}, caso_numero{0.1f, "0.1"}, caso_numero{208.3f, "208.3"},
                       caso_numero{1e10f, "1e+10"}));
 
-TEST(TestoGiornale, RaddoppiaLeVirgoletteETieneIlTestoComE) {
+// A system's name can hold anything its file name holds: one event stays one line.
+TEST(TestoGiornale, RaddoppiaLeVirgoletteEScriveICaratteriDiControllo) {
   EXPECT_EQ(testo_giornale(""), "\"\"");
   EXPECT_EQ(testo_giornale("di \"prova\""), "\"di \"\"prova\"\"\"");
   EXPECT_EQ(testo_giornale("Sistema - Sched. n.3 - € 1,50"), "\"Sistema - Sched. n.3 - € 1,50\"");
-}
-
-// A system's name can hold anything its file name holds: one event stays one line.
-TEST(TestoGiornale, ScriveICaratteriDiControlloELaBarraRovesciata) {
   EXPECT_EQ(testo_giornale("a\nb\rc\td"), R"("a\nb\rc\td")");
   EXPECT_EQ(testo_giornale(std::string_view("\0\x01\x1b\x1f \x7f", 6)), "\"\\x00\\x01\\x1b\\x1f \x7f\"");
   EXPECT_EQ(testo_giornale(R"(C:\sistemi\n1)"), R"("C:\\sistemi\\n1")");
