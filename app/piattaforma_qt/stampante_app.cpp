@@ -26,8 +26,11 @@ std::string stampante_app::nuovo_file_pdf() const {
   std::error_code errore;
   std::filesystem::create_directories(cartella, errore);
   if (errore) {
-    throw errore_runtime(codice::errore_stampante, "impossibile creare la cartella " + cartella.string() + ": " +
-                                                       testo_errore(codice_da_errno(errore.value())));
+    // The likeliest fault by far: a file of that name stands in the way.
+    const bool file_al_posto = errore == std::errc::not_a_directory || errore == std::errc::file_exists;
+    const std::string causa = file_al_posto ? "al suo posto c'è un file con lo stesso nome"
+                                            : testo_errore(codice_da_errno(errore.value()));
+    throw errore_runtime(codice::errore_stampante, "impossibile creare la cartella " + cartella.string() + ": " + causa);
   }
   std::string base = "stampa-" + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-HHmmss")).toStdString();
   std::filesystem::path percorso = cartella / (base + ".pdf");

@@ -186,7 +186,7 @@ TEST_F(StampaPdf, AFileInPlaceOfTheFolderIsToldAndTheNextPrintWorks) {
   EXPECT_TRUE(piattaforma.file_pdf.empty());
   ASSERT_EQ(piattaforma.guasti.size(), 1u);
   EXPECT_EQ(piattaforma.guasti[0],
-            "impossibile creare la cartella " + cartella.file("stampe") + ": Errore di accesso al percorso/file");
+            "impossibile creare la cartella " + cartella.file("stampe") + ": al suo posto c'è un file con lo stesso nome");
 
   std::filesystem::remove(cartella.file("stampe"));
   clic(w("Form_sched_lotto_ambetto", "cmdstampa", 1));
