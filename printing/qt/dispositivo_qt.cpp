@@ -4,11 +4,10 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <cerrno>
 
 #include "core/errore_runtime.h"
 #include "printing/qt/file_pdf.h"
-
-#include <cerrno>
 
 #if defined(__GLIBC__)
 #include <malloc.h>

@@ -10,6 +10,9 @@ namespace schedine {
 file_pdf::~file_pdf() { file_pdf::close(); }
 
 bool file_pdf::apri() {
+  // A second try starts from nothing.
+  close();
+  guasto_ = 0;
   descrittore_ = ::open(percorso_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   if (descrittore_ < 0) {
     annota(errno);
